@@ -1,0 +1,48 @@
+# Libraries for the Windows build, for which Debian has no binary packages: header-only ones from the
+# native packages, the others built from the sources that packages carry.
+
+enable_language(C)
+
+# Only these folders of /usr/include: the rest of it is for Linux.
+set(native_headers ${PROJECT_BINARY_DIR}/native-headers)
+file(MAKE_DIRECTORY ${native_headers})
+foreach(folder nlohmann CLI)
+  if(NOT EXISTS /usr/include/${folder})
+    message(FATAL_ERROR "/usr/include/${folder} is missing: install nlohmann-json3-dev and libcli11-dev")
+  endif()
+  file(CREATE_LINK /usr/include/${folder} ${native_headers}/${folder} SYMBOLIC)
+endforeach()
+add_library(native_headers INTERFACE)
+target_include_directories(native_headers SYSTEM INTERFACE ${native_headers})
+add_library(nlohmann_json::nlohmann_json ALIAS native_headers)
+add_library(CLI11::CLI11 ALIAS native_headers)
+
+# scripts/expat-source puts the sources there.
+set(EXPAT_SOURCE_DIR ${PROJECT_SOURCE_DIR}/build/sources/expat CACHE PATH "Sources of Expat")
+foreach(part TOOLS EXAMPLES TESTS DOCS PKGCONFIG)
+  set(EXPAT_BUILD_${part} OFF CACHE BOOL "" FORCE)
+endforeach()
+set(EXPAT_SHARED_LIBS OFF CACHE BOOL "" FORCE)
+set(EXPAT_ENABLE_INSTALL OFF CACHE BOOL "" FORCE)
+# Our warnings and definitions are not for it.
+foreach(property COMPILE_OPTIONS COMPILE_DEFINITIONS)
+  get_property(own_${property} DIRECTORY PROPERTY ${property})
+  set_property(DIRECTORY PROPERTY ${property} "")
+endforeach()
+add_subdirectory(${EXPAT_SOURCE_DIR} expat EXCLUDE_FROM_ALL SYSTEM)
+foreach(property COMPILE_OPTIONS COMPILE_DEFINITIONS)
+  set_property(DIRECTORY PROPERTY ${property} "${own_${property}}")
+endforeach()
+target_include_directories(expat INTERFACE ${EXPAT_SOURCE_DIR}/lib)
+add_library(EXPAT::EXPAT ALIAS expat)
+
+# The compiler's own libraries go beside the programs.
+foreach(library libstdc++-6 libgcc_s_seh-1 libwinpthread-1)
+  execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${library}.dll
+                  OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE)
+  if(NOT IS_ABSOLUTE ${path})
+    # Not among the compiler's files but in the target's folder.
+    set(path ${CMAKE_FIND_ROOT_PATH}/lib/${library}.dll)
+  endif()
+  file(COPY ${path} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+endforeach()

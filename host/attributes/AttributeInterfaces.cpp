@@ -1,0 +1,16 @@
+#include "ZRKIAttributes.h"
+
+CATImplementInterface(ZRKIAttClass,
+                      {0x2b8c7a30, 0x51d4, 0x4e07, {0xa3, 0x6c, 0x90, 0x1b, 0x77, 0x28, 0xde, 0x45}})
+    CATImplementInterface(ZRKIAttStatus,
+                          {0x2b8c7a31, 0x51d4, 0x4e07, {0xa3, 0x6c, 0x90, 0x1b, 0x77, 0x28, 0xde, 0x45}})
+        CATImplementInterface(ZRKIAttDictionary,
+                              {0x2b8c7a32, 0x51d4, 0x4e07, {0xa3, 0x6c, 0x90, 0x1b, 0x77, 0x28, 0xde, 0x45}})
+            CATImplementInterface(ZRKIAttInstance, {0x2b8c7a33,
+                                                    0x51d4,
+                                                    0x4e07,
+                                                    {0xa3, 0x6c, 0x90, 0x1b, 0x77, 0x28, 0xde, 0x45}})
+                CATImplementInterface(ZRKIAttExtendable, {0x2b8c7a34,
+                                                          0x51d4,
+                                                          0x4e07,
+                                                          {0xa3, 0x6c, 0x90, 0x1b, 0x77, 0x28, 0xde, 0x45}})

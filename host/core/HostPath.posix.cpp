@@ -1,0 +1,19 @@
+#include "core/HostPath.h"
+
+#include <algorithm>
+
+namespace standin {
+
+std::string HostPath(const std::filesystem::path& path) {
+  std::string hostPath = path.string();
+  std::replace(hostPath.begin(), hostPath.end(), '/', '\\');
+  return hostPath;
+}
+
+std::filesystem::path FilePath(std::string_view hostPath) {
+  std::string path(hostPath);
+  std::replace(path.begin(), path.end(), '\\', '/');
+  return path;
+}
+
+}  // namespace standin

@@ -1,0 +1,39 @@
+#include "ZRKCorServices.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "core/HostPath.h"
+#include "core/RuntimeFiles.h"
+
+bool ZRKCorEnvVarManager::GetRuntimeFilePath(const char* variable, const CATUnicodeString& file,
+                                             CATUnicodeString& path) {
+  std::string found;
+  const char* value = variable ? std::getenv(variable) : nullptr;
+  // A name with a root would turn the look-up away from the folder it is made in.
+  const std::filesystem::path name = standin::FilePath(file.ConvertToChar()).relative_path();
+  for (std::string_view rest = value ? value : ""; found.empty() && !rest.empty();) {
+    const std::size_t end = rest.find(standin::kFolderListSeparator);
+    const std::string_view folder = rest.substr(0, end);
+    rest = end == std::string_view::npos ? std::string_view() : rest.substr(end + 1);
+    if (folder.empty()) continue;
+    std::error_code failure;
+    const std::filesystem::path candidate =
+        std::filesystem::absolute(standin::FilePath(folder) / name, failure);
+    if (!failure && standin::IsRunnableFile(candidate)) found = standin::HostPath(candidate);
+  }
+  path = found.c_str();
+  return !found.empty();
+}
+
+void ZRKCorParserServices::SplitFilePath(const CATUnicodeString& path, CATUnicodeString& folder,
+                                         CATUnicodeString& name) {
+  // Copied first, as a caller may get a part back in the very text it passed.
+  const std::string whole = path.ConvertToChar();
+  const std::size_t separator = whole.rfind('\\');
+  const bool hasFolder = separator != std::string::npos;
+  folder = hasFolder ? whole.substr(0, separator).c_str() : "";
+  name = hasFolder ? whole.substr(separator + 1).c_str() : whole.c_str();
+}

@@ -1,0 +1,68 @@
+#include "CATDlgNotify.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <set>
+#include <utility>
+
+#include "dialogs/UserInterface.h"
+
+namespace standin {
+namespace {
+
+constexpr unsigned int kYesNoStyle = 0x800000;
+
+// Told by their addresses, so that one that has ended is recognised without being touched.
+std::set<const CATDlgNotify*>& LiveDialogs() {
+  static auto* const dialogs = new std::set<const CATDlgNotify*>;
+  return *dialogs;
+}
+
+DialogResponder& TheUser() {
+  static auto* const user = new DialogResponder;
+  return *user;
+}
+
+DialogAnswer Ask(const DialogRequest& request) {
+  // A copy, as the user may be replaced while answering.
+  const DialogResponder user = TheUser();
+  const DialogAnswer answer = user ? user(request) : DialogAnswer::No;
+  if (!request.IsQuestion()) return DialogAnswer::Acknowledged;
+  return answer == DialogAnswer::Yes ? DialogAnswer::Yes : DialogAnswer::No;
+}
+
+}  // namespace
+
+bool DialogRequest::IsQuestion() const {
+  return (Style & kYesNoStyle) != 0;
+}
+
+void SetDialogResponder(DialogResponder responder) {
+  TheUser() = std::move(responder);
+}
+
+int LiveDialogCount() {
+  return static_cast<int>(LiveDialogs().size());
+}
+
+}  // namespace standin
+
+CATDlgNotify::CATDlgNotify(CATDialog* parent, const CATUnicodeString& identifier, unsigned int style)
+    : CATDialog(parent), hasParent_(parent != nullptr), identifier_(identifier), style_(style) {
+  standin::LiveDialogs().insert(this);
+}
+
+CATDlgNotify::~CATDlgNotify() {
+  standin::LiveDialogs().erase(this);
+}
+
+int CATDlgNotify::DisplayBlocked(const CATUnicodeString& message, const CATUnicodeString& title) {
+  if (!standin::LiveDialogs().contains(this)) {
+    std::fputs("A message box was shown after its end.\n", stderr);
+    std::abort();
+  }
+  if (!hasParent_) return 0;
+  const standin::DialogAnswer answer =
+      standin::Ask({identifier_.ConvertToChar(), title.ConvertToChar(), message.ConvertToChar(), style_});
+  return static_cast<int>(answer);
+}

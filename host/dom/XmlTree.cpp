@@ -1,0 +1,64 @@
+#include "dom/XmlTree.h"
+
+#include <expat.h>
+
+#include <limits>
+#include <memory>
+#include <type_traits>
+#include <utility>
+
+#include "text/NativeText.h"
+
+namespace standin {
+
+class XmlTreeBuilder {
+public:
+  static void StartElement(void* user, const XML_Char* name, const XML_Char** /*attributes*/) {
+    auto& builder = *static_cast<XmlTreeBuilder*>(user);
+    auto& tree = builder.Tree;
+    builder.open_.push_back(tree.elements_.size());
+    tree.elements_.push_back({.Name = NativeFromUtf8(name), .TextBegin = tree.text_.size()});
+  }
+
+  static void EndElement(void* user, const XML_Char* /*name*/) {
+    auto& builder = *static_cast<XmlTreeBuilder*>(user);
+    auto& tree = builder.Tree;
+    XmlTree::Element& element = tree.elements_[builder.open_.back()];
+    builder.open_.pop_back();
+    element.End = tree.elements_.size();
+    element.TextEnd = tree.text_.size();
+  }
+
+  static void Text(void* user, const XML_Char* text, int length) {
+    static_cast<XmlTreeBuilder*>(user)->Tree.text_.append(text, static_cast<std::size_t>(length));
+  }
+
+  XmlTree Tree;
+
+private:
+  // The elements that have begun and not ended, the innermost last.
+  std::vector<std::size_t> open_;
+};
+
+std::optional<XmlTree> XmlTree::Parse(std::string_view text) {
+  if (text.size() > static_cast<std::size_t>(std::numeric_limits<int>::max())) return std::nullopt;
+  const std::unique_ptr<std::remove_pointer_t<XML_Parser>, decltype(&XML_ParserFree)> parser(
+      XML_ParserCreate(nullptr), &XML_ParserFree);
+  if (!parser) return std::nullopt;
+  XmlTreeBuilder builder;
+  XML_SetUserData(parser.get(), &builder);
+  XML_SetElementHandler(parser.get(), &XmlTreeBuilder::StartElement, &XmlTreeBuilder::EndElement);
+  XML_SetCharacterDataHandler(parser.get(), &XmlTreeBuilder::Text);
+  // In one piece: given piece by piece, a long token would be looked at anew with each of them.
+  if (XML_Parse(parser.get(), text.data(), static_cast<int>(text.size()), XML_TRUE) != XML_STATUS_OK) {
+    return std::nullopt;
+  }
+  return std::move(builder.Tree);
+}
+
+std::string XmlTree::TextBelow(std::size_t element) const {
+  const Element& below = elements_[element];
+  return NativeFromUtf8(std::string_view(text_).substr(below.TextBegin, below.TextEnd - below.TextBegin));
+}
+
+}  // namespace standin

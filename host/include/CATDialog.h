@@ -1,0 +1,23 @@
+#pragma once
+
+#include <vector>
+
+// Base of the host's dialog objects. They are made with `new` and owned by their parent; whoever is
+// done with one asks it to go.
+class CATDialog {
+public:
+  CATDialog(const CATDialog&) = delete;
+  CATDialog& operator=(const CATDialog&) = delete;
+
+  // The dialog takes itself out of its parent and ends, with all dialogs that it is the parent of; the
+  // pointer is no longer good.
+  virtual void RequestDestruction();
+
+protected:
+  explicit CATDialog(CATDialog* parent = nullptr);
+  virtual ~CATDialog();
+
+private:
+  CATDialog* parent_;
+  std::vector<CATDialog*> children_;
+};

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "CATIProduct.h"
+
+class CATPrsWorkModeServices {
+public:
+  // Work mode of a product: 1 loads what the structure below it needs to be walked.
+  static void SetWorkMode(const CATIProduct_var& product, int mode);
+};

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// Between the platform's 8-bit encoding (UTF-8 on Linux, the active code page on Windows) and wide text.
+namespace standin {
+
+// Bytes that are no part of a character become one wide character each; on Linux these are
+// U+DC80..U+DCFF, which NativeFromWide turns back into the bytes they came from.
+std::wstring WideFromNative(std::string_view text);
+// What is no character becomes the encoding's replacement character.
+std::string NativeFromWide(std::wstring_view text);
+
+// From text that is UTF-8 on every platform, such as the content of an XML document.
+std::string NativeFromUtf8(std::string_view text);
+
+// Length of WideFromNative(text).
+int CountCharacters(std::string_view text);
+
+}  // namespace standin

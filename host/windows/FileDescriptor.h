@@ -1,0 +1,32 @@
+#pragma once
+
+#include <unistd.h>
+
+#include <utility>
+
+namespace standin {
+
+// Owns an open file descriptor, or none.
+class FileDescriptor {
+public:
+  FileDescriptor() = default;
+  explicit FileDescriptor(int number) : number_(number) {}
+  FileDescriptor(FileDescriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  FileDescriptor& operator=(FileDescriptor&& other) noexcept {
+    std::swap(number_, other.number_);
+    return *this;
+  }
+  ~FileDescriptor() {
+    if (number_ >= 0) close(number_);
+  }
+
+  explicit operator bool() const { return number_ >= 0; }
+  // Negative when there is none.
+  int Get() const { return number_; }
+  int Release() { return std::exchange(number_, -1); }
+
+private:
+  int number_ = -1;
+};
+
+}  // namespace standin

@@ -1,0 +1,11 @@
+#include <cstdlib>
+
+#include "support/EnvironmentVariable.h"
+
+void SetEnvironmentValue(const std::string& name, const std::optional<std::string>& value) {
+  if (value) {
+    setenv(name.c_str(), value->c_str(), 1);
+  } else {
+    unsetenv(name.c_str());
+  }
+}
