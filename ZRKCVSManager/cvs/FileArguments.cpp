@@ -1,0 +1,80 @@
+#include "cvs/FileArguments.h"
+
+#include <optional>
+
+#include "CATPrsWorkModeServices.h"
+#include "cvs/WorkingCopy.h"
+#include "product/ProductDocument.h"
+#include "product/ProductTree.h"
+#include "product/StatusInstance.h"
+
+namespace zrk::cvs {
+namespace {
+
+// CreateProcessW takes a little more than 32,000 characters for the whole command line.
+constexpr int kChunkLimit = 32000;
+// A blank and two quotation marks around each path.
+constexpr int kArgumentOverhead = 3;
+// The mode in which the structure below a product can be walked.
+constexpr int kWorkModeDesign = 1;
+
+// The product's document. A product that cannot have one loses its status attributes.
+product::ProductDocument ReachOrClear(const FileArgumentContext& context, const CATBaseUnknown_var& object) {
+  if (const CATIProduct_var product{object}) CATPrsWorkModeServices::SetWorkMode(product, kWorkModeDesign);
+  product::ProductDocument document = product::ReachDocument(object);
+  if (document.State == product::DocumentState::NoReference ||
+      document.State == product::DocumentState::NotLinkable) {
+    product::RemoveInstance(object, context.AttributeClass);
+    product::Redraw(object);
+  }
+  return document;
+}
+
+// What the client is to be told of a document; nothing when it is not the client's.
+std::optional<CATUnicodeString> ArgumentPath(const FileArgumentContext& context,
+                                             const CATUnicodeString& documentPath) {
+  if (documentPath.GetLengthInByte() == 0 || !IsInCVSWorkingCopy(documentPath)) return std::nullopt;
+  return RelativePath(documentPath, context.SandboxRoot);
+}
+
+void AppendArgument(const CATUnicodeString& path, CATUnicodeString& tail) {
+  tail += " ";
+  tail += Quoted(path);
+}
+
+}  // namespace
+
+CATUnicodeString RelativePath(const CATUnicodeString& documentPath, const CATUnicodeString& sandboxRoot) {
+  CATUnicodeString path = documentPath;
+  path.ReplaceSubString(sandboxRoot, "");
+  return path;
+}
+
+CATUnicodeString Quoted(const CATUnicodeString& path) {
+  return CATUnicodeString("\"") + path + "\"";
+}
+
+int AppendCVSFileArgument(const FileArgumentContext& context, const CATBaseUnknown_var& product,
+                          CATUnicodeString& tail) {
+  const product::ProductDocument document = ReachOrClear(context, product);
+  if (const auto path = ArgumentPath(context, document.Path)) AppendArgument(*path, tail);
+  return 0;
+}
+
+int CollectCVSFileArguments(const FileArgumentContext& context, const CATBaseUnknown_var& product,
+                            CATListValCATUnicodeString& chunks, std::int32_t* chunk) {
+  product::WalkProductTree(product, [&](const CATBaseUnknown_var& object) {
+    const product::ProductDocument document = ReachOrClear(context, object);
+    if (const auto path = ArgumentPath(context, document.Path)) {
+      if (chunks[*chunk].GetLengthInChar() + path->GetLengthInChar() + kArgumentOverhead >= kChunkLimit) {
+        ++*chunk;
+        chunks.Append({});
+      }
+      AppendArgument(*path, chunks[*chunk]);
+    }
+    return document.Exists();
+  });
+  return 0;
+}
+
+}  // namespace zrk::cvs

@@ -1,0 +1,52 @@
+#include "cvs/ReportTables.h"
+
+#include "cvs/StatusReport.h"
+#include "cvs/Text.h"
+
+namespace zrk::cvs {
+namespace {
+
+// A report of many empty lines would be filed once for each of them, at the square of its length. What
+// such lines may take in all is far more than any client's message and bounds that.
+constexpr std::size_t kWrappedLinesLimit = std::size_t{16} << 20;
+
+void FileEditLine(std::string_view line, const CATUnicodeString& sandboxRoot, ReportTable& table) {
+  const std::string_view name = line.substr(0, line.find('\t'));
+  std::string key = sandboxRoot.ConvertToChar();
+  key += name;
+  table.try_emplace(Replaced(key, '/', '\\'), Replaced(line, '\t', '\n'));
+}
+
+}  // namespace
+
+void FileStatusReport(std::string_view report, const CATUnicodeString& sandboxRoot,
+                      const CATUnicodeString& cvsRoot, ReportTable& table) {
+  constexpr std::string_view kBlockStart = "File:";
+  constexpr std::string_view kSeparator = "=====";
+  std::size_t start = report.find(kBlockStart);
+  while (start != std::string_view::npos) {
+    const std::size_t end = report.find(kSeparator, start + kBlockStart.size());
+    const std::string_view block = report.substr(start, end - start);
+    std::string key = sandboxRoot.ConvertToChar();
+    key += GetRepositoryPath(block, View(cvsRoot));
+    table.try_emplace(std::move(key), block);
+    start = end == std::string_view::npos ? end : report.find(kBlockStart, end);
+  }
+}
+
+void FileEditReport(std::string_view report, const CATUnicodeString& sandboxRoot, ReportTable& table) {
+  std::size_t wrapped = 0;
+  std::size_t start = 0;
+  for (std::size_t end = report.find('\n'); end != std::string_view::npos; end = report.find('\n', start)) {
+    const auto length = static_cast<std::ptrdiff_t>(end - start) - 1;
+    const std::string_view line = Piece(report, start, length);
+    start = end + 1;
+    if (length < 0) {
+      wrapped += line.size();
+      if (wrapped > kWrappedLinesLimit) continue;
+    }
+    FileEditLine(line, sandboxRoot, table);
+  }
+}
+
+}  // namespace zrk::cvs

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "CATIProduct.h"
+#include "CATUnicodeString.h"
+
+namespace zrk::cvs {
+
+// Where the documents of a product tree are kept under version control, told by the files that the
+// clients keep in the folder of a document.
+struct WorkingCopy {
+  // The document examined last has `.svn\entries` beside it.
+  bool IsSVN = false;
+  // Folder, without a closing "\", of the document whose `.svn\entries` was found.
+  CATUnicodeString SVNWorkingFolder;
+  // Local folder, with a closing "\", that corresponds to the repository's root folder: the document's
+  // path up to where the text of `CVS\Repository` occurs first, empty when it does not occur.
+  CATUnicodeString SandboxRoot;
+  // Text of `CVS\Root`, without line feeds.
+  CATUnicodeString CVSRoot;
+};
+
+// Looks beside the product's document and, where there is no `CVS\Repository`, goes on with its children
+// of type CATIProduct, depth first: the last CVS working copy found holds, and the last product examined
+// decides whether it is Subversion. What is not found stays as it was; a product without a stored
+// document ends its branch.
+void DiscoverWorkingCopy(const CATIProduct_var& product, WorkingCopy& workingCopy);
+
+// Whether a document of that path lies in a CVS working copy: `CVS\Repository` is beside it.
+bool IsInCVSWorkingCopy(const CATUnicodeString& documentPath);
+
+}  // namespace zrk::cvs

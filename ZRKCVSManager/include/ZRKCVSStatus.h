@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "CATUnicodeString.h"
+#include "ZRKCVSManagerExport.h"
+
+class CATBaseUnknown;
+
+// The version-control state of one file, as the clients' reports and the working copy's own files tell
+// it. A new record knows nothing: every text is empty, every flag 0.
+//
+// The fields from File to ExistingTags come from the report of `cvs status -v`, each from the line with
+// its label; those that Subversion fills come from `.svn\entries` and from `svn status -v -u`.
+class ZRKCVSMANAGER_EXPORT ZRKCVSStatus {
+public:
+  ZRKCVSStatus();
+  ZRKCVSStatus(const ZRKCVSStatus& other);
+  ZRKCVSStatus& operator=(const ZRKCVSStatus& other);
+  ~ZRKCVSStatus();
+
+  // File name from the "File:" line without its blanks; the tab before "Status:" stays at its end.
+  CATUnicodeString File;
+  // Status words from the "File:" line, up to and with the carriage return that ends it.
+  CATUnicodeString Status;
+  // CVS: "Working revision:", without blanks and tabs. Subversion: the last committed revision from the
+  // entries file.
+  CATUnicodeString WorkingRevision;
+  // Of this and the following fields tabs are removed: here revision and repository file stand together.
+  CATUnicodeString RepositoryRevision;
+  CATUnicodeString ExpansionOption;
+  CATUnicodeString CommitIdentifier;
+  CATUnicodeString StickyTag;
+  CATUnicodeString StickyDate;
+  CATUnicodeString StickyOptions;
+  CATUnicodeString MergeFrom;
+  // First line after "Existing Tags:", appended to what stood here.
+  CATUnicodeString ExistingTags;
+  // Free comment; it ends the "Comment" attribute. Empty unless a back end sets it.
+  CATUnicodeString AuxText;
+  // Owner of the Subversion lock: from the entries file when the lock is held here, else from the report.
+  CATUnicodeString LockOwner;
+
+  // The Subversion entries file lists the file.
+  unsigned char IsVersioned;
+  // Carried and copied, not used.
+  unsigned char Flag2;
+  // Set together with IsVersioned.
+  unsigned char IsInEntries;
+  // The entries file holds a lock token: this working copy has the lock.
+  unsigned char IsLockedHere;
+  // The Subversion status report shows a lock held elsewhere.
+  unsigned char IsLockedByOther;
+
+  // Carried and copied, not used.
+  std::string Text1;
+  std::string Text2;
+  std::string Text3;
+
+  // WorkingRevision of Subversion as a number, 0 when it is not one.
+  std::int32_t RevisionNumber;
+};
+
+extern "C" {
+
+// 1 when the object is a product whose reference has a document, so that it can be put under version
+// control; else 0, also for null. Whether the document lies in a working copy is not asked.
+ZRKCVSMANAGER_EXPORT int IsCVSable(CATBaseUnknown* object);
+
+// 1 when the attribute package "ZRKCVS" answers that the object may be modified; else 0, also for null
+// and when the attribute dictionary does not know the package.
+ZRKCVSMANAGER_EXPORT int IsCVSModifiable(CATBaseUnknown* object);
+}

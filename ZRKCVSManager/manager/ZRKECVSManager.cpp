@@ -1,0 +1,94 @@
+#include "manager/ZRKECVSManager.h"
+
+#include <iostream>
+
+#include "CATILinkableObject.h"
+#include "ZRKAttPackageBaseServices.h"
+#include "cvs/FileArguments.h"
+#include "cvs/StatusReport.h"
+#include "cvs/Text.h"
+#include "cvs/WorkingCopy.h"
+#include "product/ProductDocument.h"
+#include "svn/LockCommands.h"
+#include "tools/ToolLocation.h"
+
+using namespace zrk;
+
+ZRKECVSManager::ZRKECVSManager(CATBaseUnknown& product) : CATBaseUnknown(product) {
+  if (const CATIProduct_var own{this}) DiscoverWorkingCopy(own);
+  StandardOutput = GetStdHandle(STD_OUTPUT_HANDLE);
+  if (const ZRKIAttDictionary_var dictionary = ZRKAttPackageBaseServices::GetDicoLookUp()) {
+    AttributeClass = dictionary->LookUpClass("ZRKCVS");
+  }
+  tools::LocateTools(CVSExePath, SVNExePath);
+}
+
+ZRKECVSManager::~ZRKECVSManager() = default;
+
+HRESULT ZRKECVSManager::PrintCommTime() {
+  std::cout << " Total CVS Comm Time: " << CommTime << std::endl;
+  CommTime = 0;
+  return S_OK;
+}
+
+HRESULT ZRKECVSManager::GetFileStatus(const CATIProduct_var& product, ZRKCVSStatus& record) {
+  if (!product || FAILED(product->TestReference())) return S_OK;
+  const product::ProductDocument document = product::ReachDocument(product);
+  if (document.Path.GetLengthInByte() == 0) return S_OK;
+  const tools::PipeScope pipes(Tools());
+  return QueryCVSFileStatus(document.Path, record);
+}
+
+HRESULT ZRKECVSManager::SVNDelete(const CATUnicodeString& file) {
+  const tools::PipeScope pipes(Tools());
+  return svn::SVNDelete(SVN(), file);
+}
+
+void ZRKECVSManager::RunTool(const CATUnicodeString& arguments, const CATUnicodeString& workingFolder,
+                             CATUnicodeString& output) {
+  tools::RunTool(Tools(), arguments, workingFolder, output);
+}
+
+std::int32_t ZRKECVSManager::CheckCVSToolPath() {
+  return tools::CheckCVSToolPath(CVSExePath);
+}
+
+void ZRKECVSManager::DiscoverWorkingCopy(const CATIProduct_var& product) {
+  cvs::WorkingCopy workingCopy{IsSVN, SVNWorkingFolder, SandboxRoot, CVSRoot};
+  cvs::DiscoverWorkingCopy(product, workingCopy);
+  IsSVN = workingCopy.IsSVN;
+  SVNWorkingFolder = workingCopy.SVNWorkingFolder;
+  SandboxRoot = workingCopy.SandboxRoot;
+  CVSRoot = workingCopy.CVSRoot;
+}
+
+HRESULT ZRKECVSManager::QueryCVSFileStatus(const CATUnicodeString& documentPath, ZRKCVSStatus& record) {
+  const CATUnicodeString arguments =
+      CATUnicodeString(" status -v ") + cvs::Quoted(cvs::RelativePath(documentPath, SandboxRoot));
+  CATUnicodeString report;
+  const tools::RunClock clock;
+  RunTool(arguments, SandboxRoot, report);
+  CommTime += clock.Elapsed();
+  cvs::ParseCVSStatusBlock(cvs::View(report), record);
+  return S_OK;
+}
+
+bool ZRKECVSManager::KnowsCVSWorkingCopy() const {
+  return SandboxRoot.GetLengthInByte() > 0 && CVSRoot.GetLengthInByte() > 0;
+}
+
+bool ZRKECVSManager::IsReadyForCVS() {
+  if (!CheckCVSToolPath()) return false;
+  if (!KnowsCVSWorkingCopy()) {
+    if (const CATIProduct_var own{this}) DiscoverWorkingCopy(own);
+  }
+  return KnowsCVSWorkingCopy();
+}
+
+tools::ToolContext ZRKECVSManager::Tools() {
+  return {IsSVN, CVSRoot, CVSExePath, SVNExePath, ChildOutput, ChildInput};
+}
+
+svn::SVNContext ZRKECVSManager::SVN() {
+  return {Tools(), SVNWorkingFolder, AttributeClass};
+}

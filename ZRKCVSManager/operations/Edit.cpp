@@ -1,0 +1,73 @@
+// Taking the document of the manager's product for editing.
+
+#include <windows.h>
+
+#include <cstdio>
+#include <string_view>
+
+#include "CATMsgCatalog.h"
+#include "cvs/FileArguments.h"
+#include "cvs/Text.h"
+#include "manager/ZRKECVSManager.h"
+#include "product/ProductDocument.h"
+#include "product/StatusInstance.h"
+#include "svn/LockCommands.h"
+#include "tools/BlockingDialog.h"
+
+using namespace zrk;
+
+namespace {
+
+constexpr HRESULT kMessageShown = 1;
+
+void ShowWarning(const CATUnicodeString& message) {
+  const CATUnicodeString title =
+      CATMsgCatalog::BuildMessage("ZRKCVSEditCmd", "warning", nullptr, 0, "Warning!!!");
+  tools::DisplayBlocked(tools::DialogKind::Notice, message, title);
+}
+
+// `answer` is the client's "U <file>".
+void ShowNewerVersion(CATUnicodeString answer) {
+  answer.ReplaceSubString("U ", "");
+  ShowWarning(CATMsgCatalog::BuildMessage("ZRKCVSEditCmd", "updatewarning", &answer, 1,
+                                          CATUnicodeString("There is a newer version of ") + answer +
+                                              " in the repository, please do an update first."));
+}
+
+}  // namespace
+
+HRESULT ZRKECVSManager::Edit() {
+  const tools::PipeScope pipes(Tools());
+  const CATBaseUnknown_var own(this);
+  if (IsSVN) return svn::SVNLock(SVN(), own);
+  if (!IsReadyForCVS()) return E_FAIL;
+  const product::ProductDocument document = product::ReachDocument(own);
+  if (!document.Exists()) return E_FAIL;
+  const CATUnicodeString path = cvs::Quoted(cvs::RelativePath(document.Path, SandboxRoot));
+
+  CATUnicodeString answers;
+  RunTool(CATUnicodeString("-n -q update ") + path, SandboxRoot, answers);
+  if (cvs::View(answers).starts_with('U')) {
+    wprintf(L"do update first\n");
+    ShowNewerVersion(answers);
+    product::Redraw(own);
+    return E_FAIL;
+  }
+  RunTool(CATUnicodeString("-q -x edit -z -c ") + path, SandboxRoot, answers);
+
+  const ZRKIAttInstance_var instance = product::FindOrAddInstance(own, AttributeClass);
+  if (!instance && ZRKIAttExtendable_var(own)) return E_FAIL;
+  const CATICkeParm_var status = product::GetParameter(instance, "Status");
+  if (!status || answers.GetLengthInByte() > 0) {
+    ShowWarning(answers);
+    product::Redraw(own);
+    return kMessageShown;
+  }
+  status->Valuate("Edit");
+  ZRKCVSStatus record;
+  QueryCVSFileStatus(document.Path, record);
+  product::SetParameter(instance, "Revision", record.WorkingRevision);
+  product::SetParameter(instance, "Release", record.ExistingTags);
+  product::Redraw(own);
+  return S_OK;
+}

@@ -1,0 +1,41 @@
+#include "svn/LockCommands.h"
+
+#include <initializer_list>
+
+#include "product/ProductDocument.h"
+#include "svn/StatusReaders.h"
+
+namespace zrk::svn {
+namespace {
+
+void Run(const SVNContext& context, const CATUnicodeString& arguments) {
+  CATUnicodeString answer;
+  tools::RunTool(context.Tools, arguments, context.WorkingFolder, answer);
+}
+
+HRESULT RunAndRefresh(const SVNContext& context, const CATBaseUnknown_var& product,
+                      std::initializer_list<const char*> commands) {
+  const product::ProductDocument document = product::ReachDocument(product);
+  if (!document.Exists()) return E_FAIL;
+  for (const char* command : commands) Run(context, FileCommand(command, document.Path));
+  RefreshSVNStatus(context, product);
+  return S_OK;
+}
+
+}  // namespace
+
+HRESULT SVNLock(const SVNContext& context, const CATBaseUnknown_var& product) {
+  return RunAndRefresh(context, product, {"update", "lock"});
+}
+
+HRESULT SVNUnlock(const SVNContext& context, const CATBaseUnknown_var& product) {
+  return RunAndRefresh(context, product, {"unlock"});
+}
+
+HRESULT SVNDelete(const SVNContext& context, const CATUnicodeString& path) {
+  if (!context.Tools.IsSVN) return E_FAIL;
+  Run(context, CATUnicodeString(" delete -m\"zq\" --force  \"") + path + "\"");
+  return S_OK;
+}
+
+}  // namespace zrk::svn

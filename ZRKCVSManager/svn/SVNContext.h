@@ -1,0 +1,32 @@
+#pragma once
+
+#include "CATUnicodeString.h"
+#include "ZRKIAttributes.h"
+#include "tools/ToolRun.h"
+
+namespace zrk::svn {
+
+// Where the time of a Subversion refresh went, in ticks of the C runtime's clock (milliseconds).
+struct SVNTimes {
+  // Reading entries files and the text report.
+  double StatusCheck = 0.0;
+  // The XML report, its run included.
+  double XMLParsing = 0.0;
+  // Writing attributes.
+  double Attributing = 0.0;
+};
+
+// What the Subversion operations work with; it belongs to the manager.
+struct SVNContext {
+  tools::ToolContext Tools;
+  // Folder in which svn.exe runs.
+  const CATUnicodeString& WorkingFolder;
+  const ZRKIAttClass_var& AttributeClass;
+};
+
+// " <command> \"<path>\"", the form that all file commands but the deletion have.
+inline CATUnicodeString FileCommand(const char* command, const CATUnicodeString& path) {
+  return CATUnicodeString(" ") + command + " \"" + path + "\"";
+}
+
+}  // namespace zrk::svn

@@ -1,0 +1,37 @@
+#include "tools/RunClock.h"
+
+#include <windows.h>
+
+#include <ctime>
+#include <string>
+
+#include "CATUnicodeString.h"
+
+namespace zrk::tools {
+namespace {
+
+constexpr double kTicksPerSecond = 1000.0;
+
+// The clock has 32 bits on Windows and runs over every 49 days; unsigned differences survive that.
+std::uint32_t Now() {
+  return static_cast<std::uint32_t>(clock());
+}
+
+}  // namespace
+
+RunClock::RunClock() : start_(Now()) {}
+
+Ticks RunClock::Elapsed() const {
+  return Now() - start_;
+}
+
+void ReportTime(const char* label, double ticks) {
+  CATUnicodeString line("\n");
+  line += label;
+  line += ": ";
+  line += CATUnicodeString::BuildFromNum(ticks / kTicksPerSecond, "%g");
+  line += " sec\n";
+  OutputDebugStringW(line.ConvertToWideChar().c_str());
+}
+
+}  // namespace zrk::tools

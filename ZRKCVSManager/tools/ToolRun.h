@@ -1,0 +1,58 @@
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+
+#include "CATUnicodeString.h"
+#include "tools/Pipe.h"
+
+// Running the version-control clients as hidden child processes.
+namespace zrk::tools {
+
+// What a run works with. It belongs to the manager; one context carries one run at a time.
+struct ToolContext {
+  // svn.exe runs, with the caller's arguments alone; else cvs.exe, with the CVS root in front of them.
+  bool IsSVN;
+  const CATUnicodeString& CVSRoot;
+  const CATUnicodeString& CVSExePath;
+  const CATUnicodeString& SVNExePath;
+  // Standard output and error of the client come through one pipe, its standard input through the other.
+  Pipe& ChildOutput;
+  Pipe& ChildInput;
+};
+
+// Runs the client with the arguments in the folder, waits for the end of its output and appends that to
+// `output`. The reading also ends, with the client still running, once the whole of `output` holds
+// "revert changes": the client then waits for an answer (AnswerTool).
+//
+// Nothing runs in CVS mode without a path of cvs.exe. Failures are told on the debugger channel alone and
+// leave `output` as it is. The client's exit status is not known. Afterwards the write end of the
+// client's standard input is open, and after a question also the read end of its output; a PipeScope or
+// the next run closes them.
+void RunTool(const ToolContext& context, const CATUnicodeString& arguments,
+             const CATUnicodeString& workingFolder, CATUnicodeString& output);
+
+// Answers the client that waits after RunTool with the bytes of `answer` and its closing 0, closes the
+// client's standard input and reads its output to the end, so that what the client does upon the answer
+// is done. A client that says nothing for `patience` milliseconds is let go. A null answer is none: the
+// client sees the end of its input.
+void AnswerTool(const ToolContext& context, const char* answer, DWORD patience = 30'000);
+
+// Closes the pipes of a run when an operation is over, whatever way it ends.
+class PipeScope {
+public:
+  explicit PipeScope(const ToolContext& context) : output_(context.ChildOutput), input_(context.ChildInput) {}
+  PipeScope(const PipeScope&) = delete;
+  PipeScope& operator=(const PipeScope&) = delete;
+  ~PipeScope() {
+    input_.Close();
+    output_.Close();
+  }
+
+private:
+  Pipe& output_;
+  Pipe& input_;
+};
+
+}  // namespace zrk::tools

@@ -1,0 +1,97 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "cvs/ReportTables.h"
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Pair;
+using testing::UnorderedElementsAre;
+using zrk::cvs::ReportTable;
+
+namespace {
+
+ReportTable Filed(const std::string& report, const char* sandboxRoot = "C:\\w\\") {
+  ReportTable table;
+  zrk::cvs::FileEditReport(report, sandboxRoot, table);
+  return table;
+}
+
+}  // namespace
+
+TEST(EditReportTable, FilesEachLineUnderItsFullLocalPathWithTabsAsLineFeeds) {
+  EXPECT_THAT(Filed("proj/a b.CATPart\tanna\thost\r\nproj/sub/c\tbert\r\n"),
+              ElementsAre(Pair("C:\\w\\proj\\a b.CATPart", "proj/a b.CATPart\nanna\nhost"),
+                          Pair("C:\\w\\proj\\sub\\c", "proj/sub/c\nbert")));
+}
+
+TEST(EditReportTable, ALineWithoutATabIsItsOwnName) {
+  EXPECT_THAT(Filed("proj/a\r\n"), ElementsAre(Pair("C:\\w\\proj\\a", "proj/a")));
+}
+
+TEST(EditReportTable, ALineLosesItsLastCharacterWhateverItIs) {
+  EXPECT_THAT(Filed("proj/ab\n"), ElementsAre(Pair("C:\\w\\proj\\a", "proj/a")));
+}
+
+TEST(EditReportTable, TheFirstLineOfAFileHolds) {
+  EXPECT_THAT(Filed("a\tanna\r\na\tbert\r\n"), ElementsAre(Pair("C:\\w\\a", "a\nanna")));
+}
+
+TEST(EditReportTable, WhatIsFiledAlreadyStays) {
+  ReportTable table{{"C:\\w\\a", "old"}};
+  zrk::cvs::FileEditReport("a\tanna\r\n", "C:\\w\\", table);
+  EXPECT_THAT(table, ElementsAre(Pair("C:\\w\\a", "old")));
+}
+
+TEST(EditReportTable, TextBehindTheLastLineEndIsNoLine) {
+  EXPECT_THAT(Filed("a\tanna\r\nb\tbert\r"), ElementsAre(Pair("C:\\w\\a", "a\nanna")));
+  EXPECT_THAT(Filed("a\tanna"), IsEmpty());
+  EXPECT_THAT(Filed(""), IsEmpty());
+}
+
+TEST(EditReportTable, FurtherEditorsOfAFileStandUnderTheWorkingFolder) {
+  EXPECT_THAT(Filed("a\tanna\r\n\tbert\thost\r\n"),
+              ElementsAre(Pair("C:\\w\\", "\nbert\nhost"), Pair("C:\\w\\a", "a\nanna")));
+}
+
+TEST(EditReportTable, AnEmptyLineIsAllTheRestOfTheReport) {
+  EXPECT_THAT(Filed("a\tanna\r\n\nb\tbert\r\n"),
+              UnorderedElementsAre(Pair("C:\\w\\a", "a\nanna"), Pair("C:\\w\\\nb", "\nb\nbert\r\n"),
+                                   Pair("C:\\w\\b", "b\nbert")));
+}
+
+TEST(EditReportTable, AnEmptyLineAtTheStartIsTheWholeReport) {
+  EXPECT_THAT(Filed("\nb/c\tbert\r\n"), UnorderedElementsAre(Pair("C:\\w\\\nb\\c", "\nb/c\nbert\r\n"),
+                                                             Pair("C:\\w\\b\\c", "b/c\nbert")));
+}
+
+TEST(EditReportTable, ALineFeedAloneIsALineOfItself) {
+  EXPECT_THAT(Filed("\n"), ElementsAre(Pair("C:\\w\\\n", "\n")));
+}
+
+TEST(EditReportTable, EachOfSeveralEmptyLinesIsTheRestFromThereOn) {
+  EXPECT_THAT(Filed("\n\n\n"), UnorderedElementsAre(Pair("C:\\w\\\n\n\n", "\n\n\n"),
+                                                    Pair("C:\\w\\\n\n", "\n\n"), Pair("C:\\w\\\n", "\n")));
+}
+
+TEST(EditReportTable, ALineOfOneCharacterIsEmptyAndStandsUnderTheWorkingFolder) {
+  EXPECT_THAT(Filed("\r\na\tanna\r\n"), ElementsAre(Pair("C:\\w\\", ""), Pair("C:\\w\\a", "a\nanna")));
+}
+
+TEST(EditReportTable, SlashesOfTheWorkingFolderTurnTooButNotThoseOfTheLine) {
+  EXPECT_THAT(Filed("p/a\t/home/anna\r\n", "C:/w/"), ElementsAre(Pair("C:\\w\\p\\a", "p/a\n/home/anna")));
+}
+
+TEST(EditReportTable, LettersOfDifferentCaseAreDifferentFiles) {
+  EXPECT_EQ(Filed("a\tanna\r\nA\tanna\r\n").size(), 2u);
+}
+
+// Filed as it stands, a megabyte of empty lines would take half a terabyte.
+TEST(EditReportTable, AFloodOfEmptyLinesIsFiledInBoundedMemory) {
+  constexpr std::size_t kFlood = 1 << 20;
+  const ReportTable table = Filed(std::string(kFlood, '\n') + "a\tanna\r\n");
+  std::size_t size = 0;
+  for (const auto& [key, line] : table) size += key.size() + line.size();
+  EXPECT_LE(size, 64u << 20);
+  EXPECT_EQ(table.at("C:\\w\\a"), "a\nanna");
+}

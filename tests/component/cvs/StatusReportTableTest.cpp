@@ -1,0 +1,79 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "component/cvs/SampleReport.h"
+#include "cvs/ReportTables.h"
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Pair;
+using zrk::cvs::ReportTable;
+using zrk::sample::kSeparatorLine;
+using zrk::sample::StatusBlock;
+
+namespace {
+
+constexpr const char* kSandboxRoot = "C:\\w\\";
+
+ReportTable Filed(const std::string& report, const char* sandboxRoot = kSandboxRoot) {
+  ReportTable table;
+  zrk::cvs::FileStatusReport(report, sandboxRoot, zrk::sample::kCVSRoot, table);
+  return table;
+}
+
+}  // namespace
+
+TEST(StatusReportTable, FilesEachBlockUnderItsFullLocalPath) {
+  const std::string a = StatusBlock("proj/a.CATPart", "1.1");
+  const std::string b = StatusBlock("proj/sub/b c.CATPart", "1.2");
+  EXPECT_THAT(Filed(kSeparatorLine + a + kSeparatorLine + b),
+              ElementsAre(Pair("C:\\w\\proj\\a.CATPart", a), Pair("C:\\w\\proj\\sub\\b c.CATPart", b)));
+}
+
+TEST(StatusReportTable, ABlockRunsFromFileUpToTheSeparatorWithAllItsLineEnds) {
+  EXPECT_THAT(Filed("noise\r\nFile: x\r\n\r\nmore\r\n=====\r\n"),
+              ElementsAre(Pair("C:\\w\\", "File: x\r\n\r\nmore\r\n")));
+}
+
+TEST(StatusReportTable, TheLastBlockRunsToTheEnd) {
+  EXPECT_THAT(Filed("File: x\r\nFile: y"), ElementsAre(Pair("C:\\w\\", "File: x\r\nFile: y")));
+}
+
+TEST(StatusReportTable, WithoutABlockNothingIsFiled) {
+  EXPECT_THAT(Filed(""), IsEmpty());
+  EXPECT_THAT(Filed("cvs status: Examining .\r\n=====\r\n=====\r\n"), IsEmpty());
+}
+
+TEST(StatusReportTable, OfTwoBlocksForOneFileTheFirstHolds) {
+  const std::string first = StatusBlock("proj/a.CATPart", "1.1");
+  const std::string second = StatusBlock("proj/a.CATPart", "1.2");
+  EXPECT_THAT(Filed(first + kSeparatorLine + second), ElementsAre(Pair("C:\\w\\proj\\a.CATPart", first)));
+}
+
+TEST(StatusReportTable, WhatIsFiledAlreadyStays) {
+  ReportTable table{{"C:\\w\\proj\\a.CATPart", "old"}};
+  zrk::cvs::FileStatusReport(StatusBlock("proj/a.CATPart", "1.1"), kSandboxRoot, zrk::sample::kCVSRoot,
+                             table);
+  EXPECT_THAT(table, ElementsAre(Pair("C:\\w\\proj\\a.CATPart", "old")));
+}
+
+TEST(StatusReportTable, BlocksWithoutARepositoryFileShareTheWorkingFolderAsKey) {
+  EXPECT_THAT(Filed("File: one\r\n=====File: two\r\n"), ElementsAre(Pair("C:\\w\\", "File: one\r\n")));
+}
+
+TEST(StatusReportTable, LettersOfDifferentCaseAreDifferentFiles) {
+  EXPECT_EQ(Filed(StatusBlock("proj/a", "1.1") + kSeparatorLine + StatusBlock("Proj/a", "1.1")).size(), 2u);
+}
+
+TEST(StatusReportTable, TheWorkingFolderStandsInTheKeyAsItIs) {
+  EXPECT_THAT(Filed(StatusBlock("a", "1.1"), "C:/w\\"), ElementsAre(Pair("C:/w\\a", testing::_)));
+}
+
+TEST(StatusReportTable, ASeparatorWithinTheLabelsOwnCharactersIsLookedForBehindThem) {
+  EXPECT_THAT(Filed("File:=====File:b"), ElementsAre(Pair("C:\\w\\", "File:")));
+}
+
+TEST(StatusReportTable, ANextBlockMayStartRightBehindTheSeparator) {
+  const std::string b = StatusBlock("b", "1.2");
+  EXPECT_THAT(Filed(StatusBlock("a", "1.1") + "=====" + b), testing::Contains(Pair("C:\\w\\b", b)));
+}

@@ -1,0 +1,97 @@
+#include "files/TextFile.h"
+
+#include <gtest/gtest.h>
+
+#include "support/Files.h"
+#include "support/HandleCount.h"
+#include "support/TemporaryFolder.h"
+
+using zrk::files::CanOpen;
+using zrk::files::ReadText;
+
+namespace {
+
+class ATextFile : public testing::Test {
+protected:
+  std::optional<std::string> Read(std::string_view bytes) {
+    WriteFile(folder_ / "file", bytes);
+    return ReadText(folder_.Host("file"));
+  }
+
+  TemporaryFolder folder_;
+};
+
+}  // namespace
+
+TEST_F(ATextFile, IsReadWhole) {
+  EXPECT_EQ(Read("one\ntwo\n"), "one\ntwo\n");
+  EXPECT_EQ(Read(""), "");
+}
+
+TEST_F(ATextFile, KeepsALastLineWithoutALineEnd) {
+  EXPECT_EQ(Read("one\ntwo"), "one\ntwo");
+}
+
+TEST_F(ATextFile, LosesTheCarriageReturnOfALineEndAndNoOther) {
+  EXPECT_EQ(Read("one\r\ntwo\rthree\r\r\n\r"), "one\ntwo\rthree\r\n\r");
+}
+
+TEST_F(ATextFile, EndsAtItsEndMark) {
+  EXPECT_EQ(Read("one\x1Atwo"), "one");
+}
+
+TEST_F(ATextFile, KeepsEveryOtherByte) {
+  std::string bytes;
+  for (int byte = 0; byte < 256; ++byte) {
+    if (byte != 0x1A) bytes += static_cast<char>(byte);
+  }
+  EXPECT_EQ(Read(bytes), bytes);
+}
+
+TEST_F(ATextFile, MayBeLarge) {
+  const std::string bytes(1'000'001, 'x');
+  EXPECT_TRUE(Read(bytes) == bytes);
+}
+
+TEST_F(ATextFile, ThatIsNotThereCannotBeRead) {
+  EXPECT_EQ(ReadText(folder_.Host("missing")), std::nullopt);
+  EXPECT_EQ(ReadText(folder_.Host("missing\\file")), std::nullopt);
+  EXPECT_FALSE(CanOpen(folder_.Host("missing")));
+}
+
+TEST_F(ATextFile, CanBeOpenedWhenItIsThere) {
+  WriteFile(folder_ / "sub" / "a b", "");
+  EXPECT_TRUE(CanOpen(folder_.Host() + "\\sub\\a b"));
+}
+
+TEST_F(ATextFile, MayBeReadOnly) {
+  WriteFile(folder_ / "file", "text");
+  SetReadOnly(folder_ / "file");
+  EXPECT_EQ(ReadText(folder_.Host("file")), "text");
+}
+
+TEST_F(ATextFile, IsNotAFolder) {
+  std::filesystem::create_directory(folder_ / "sub");
+  EXPECT_FALSE(CanOpen(folder_.Host("sub")));
+  EXPECT_EQ(ReadText(folder_.Host("sub")), std::nullopt);
+}
+
+TEST_F(ATextFile, IsClosedAfterwards) {
+  WriteFile(folder_ / "file", "text");
+  const int before = CountOpenHandles();
+  CanOpen(folder_.Host("file"));
+  ReadText(folder_.Host("file"));
+  EXPECT_EQ(CountOpenHandles(), before);
+}
+
+TEST_F(ATextFile, IsWritableWhenItsOwnerMayWriteIt) {
+  WriteFile(folder_ / "file", "text");
+  EXPECT_TRUE(zrk::files::IsWritable(folder_.Host("file").c_str()));
+  SetReadOnly(folder_ / "file");
+  EXPECT_FALSE(zrk::files::IsWritable(folder_.Host("file").c_str()));
+}
+
+TEST_F(ATextFile, IsNotWritableWhenItIsNotThere) {
+  EXPECT_FALSE(zrk::files::IsWritable(folder_.Host("missing").c_str()));
+  EXPECT_FALSE(zrk::files::IsWritable(""));
+}

@@ -1,0 +1,95 @@
+#include <gtest/gtest.h>
+
+#include "attributes/AttributeDictionary.h"
+#include "component/manager/CVSStage.h"
+#include "support/CapturedOutput.h"
+#include "support/DebugMessages.h"
+#include "support/Files.h"
+
+namespace {
+
+std::string Text(const CATUnicodeString& text) {
+  return text.ConvertToChar();
+}
+
+class ARefreshsWorkingCopy : public testing::Test, protected CVSStage {
+protected:
+  ARefreshsWorkingCopy() {
+    WriteCVSFolder(Folder / "second/model", "/second/root", "model");
+    Products.Add("car", "proj/car").Add("model", "second/model/part").AddWithoutDocument("empty");
+  }
+
+  const CapturedOutput quiet_;
+};
+
+}  // namespace
+
+TEST_F(ARefreshsWorkingCopy, IsFoundFromTheRootWhenTheManagerKnowsNone) {
+  ZRKECVSManager manager(Product("empty"));
+  manager.RefreshStatus(Root("car"));
+  EXPECT_EQ(Text(manager.SandboxRoot), SandboxRoot());
+  EXPECT_EQ(Text(manager.CVSRoot), zrk::sample::kCVSRoot);
+  ASSERT_EQ(Client.Runs().size(), 2u);
+  EXPECT_EQ(Client.Runs()[0].Arguments, Arguments({"status", "-v", "proj\\car"}));
+}
+
+TEST_F(ARefreshsWorkingCopy, IsNotLookedForAgainWithAnotherRoot) {
+  ZRKECVSManager manager(Product("empty"));
+  manager.RefreshStatus(Root("car"));
+  Client.ClearRuns();
+  manager.RefreshStatus(Root("model"));
+  EXPECT_EQ(Text(manager.SandboxRoot), SandboxRoot());
+  EXPECT_EQ(Text(manager.CVSRoot), zrk::sample::kCVSRoot);
+  ASSERT_EQ(Client.Runs().size(), 2u);
+  EXPECT_EQ(Client.Runs()[0].Arguments, Arguments({"status", "-v", "second\\model\\part"}));
+  EXPECT_EQ(Client.Runs()[0].Folder, Folder.Host());
+}
+
+TEST_F(ARefreshsWorkingCopy, IsThatOfTheManagersProductWhenItHasOne) {
+  ZRKECVSManager manager(Product("car"));
+  manager.RefreshStatus(Root("model"));
+  EXPECT_EQ(Text(manager.SandboxRoot), SandboxRoot());
+  ASSERT_EQ(Client.Runs().size(), 2u);
+  EXPECT_EQ(Client.Runs()[0].Arguments, Arguments({"status", "-v", "second\\model\\part"}));
+}
+
+TEST_F(ARefreshsWorkingCopy, IsLookedForWhenItsRootAloneIsMissing) {
+  std::filesystem::remove(Folder / "proj/CVS/Root");
+  ZRKECVSManager manager(Product("car"));
+  EXPECT_EQ(Text(manager.SandboxRoot), SandboxRoot());
+  manager.RefreshStatus(Root("model"));
+  EXPECT_EQ(Text(manager.SandboxRoot), Folder.Host("second") + "\\");
+  EXPECT_EQ(Text(manager.CVSRoot), "/second/root");
+  EXPECT_EQ(Client.Runs().size(), 2u);
+}
+
+TEST_F(ARefreshsWorkingCopy, IsLookedForBeforeTheAttributeClassIsAskedFor) {
+  standin::RemoveAttributeDictionary();
+  ZRKECVSManager manager(Product("empty"));
+  manager.RefreshStatus(Root("car"));
+  EXPECT_EQ(Text(manager.SandboxRoot), SandboxRoot());
+  EXPECT_TRUE(Client.Runs().empty());
+}
+
+TEST_F(ARefreshsWorkingCopy, ThatIsSubversionsEndsThisCallAndIsUsedByTheNext) {
+  Products.Add("late", "later/late");
+  ZRKECVSManager manager(Product("late"));
+  EXPECT_FALSE(manager.IsSVN);
+  WriteFile(Folder / "later/.svn/entries", "10\n");
+  DebugMessages messages;
+  manager.RefreshStatus(Root("late"));
+  EXPECT_TRUE(manager.IsSVN);
+  EXPECT_EQ(Text(manager.SVNWorkingFolder), Folder.Host("later"));
+  EXPECT_EQ(Text(manager.SandboxRoot), "");
+  EXPECT_TRUE(Client.Runs().empty());
+  EXPECT_TRUE(messages.All().empty());
+
+  manager.RefreshStatus(Root("car"));
+  ASSERT_FALSE(Client.Runs().empty());
+  for (const ClientRun& run : Client.Runs()) {
+    EXPECT_EQ(run.Program, "svn.exe");
+    EXPECT_EQ(run.Folder, Folder.Host("later"));
+  }
+  ASSERT_EQ(messages.All().size(), 3u);
+  EXPECT_TRUE(messages.All()[0].starts_with(L"\nSVN status check time: "));
+}

@@ -1,0 +1,103 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "component/manager/CVSStage.h"
+#include "support/CapturedOutput.h"
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Pair;
+using zrk::sample::kSeparatorLine;
+using zrk::sample::StatusBlock;
+
+namespace {
+
+class TheTables : public testing::Test, protected CVSStage {
+protected:
+  TheTables() { Products.Add("car", "proj/car").Add("axle", "proj/axle").Place("car", "a", "axle"); }
+
+  std::string Key(const std::string& path) { return SandboxRoot() + path; }
+
+  const CapturedOutput quiet_;
+};
+
+}  // namespace
+
+TEST_F(TheTables, HoldBothReportsByFullLocalPath) {
+  const std::string car = StatusBlock("proj/car", "1.1");
+  const std::string axle = StatusBlock("proj/axle", "1.2");
+  Client.When("status -v").Out(kSeparatorLine + car + kSeparatorLine + axle);
+  Client.When("-n edit").Out("proj/axle\tbert\thost\r\n");
+  ZRKECVSManager manager(Product("car"));
+  manager.RefreshStatus(Root("car"));
+  EXPECT_THAT(manager.StatusBlockTable,
+              ElementsAre(Pair(Key("proj\\axle"), axle), Pair(Key("proj\\car"), car)));
+  EXPECT_THAT(manager.EditTable, ElementsAre(Pair(Key("proj\\axle"), "proj/axle\nbert\nhost")));
+}
+
+TEST_F(TheTables, HoldWhatTheClientWroteToStandardErrorToo) {
+  Client.When("-n edit").Error("proj/axle\tbert\r\n");
+  ZRKECVSManager manager(Product("car"));
+  manager.RefreshStatus(Root("car"));
+  EXPECT_THAT(manager.EditTable, ElementsAre(Pair(Key("proj\\axle"), "proj/axle\nbert")));
+}
+
+TEST_F(TheTables, KeepTheFirstOfTwoBlocksAndOfTwoLines) {
+  const std::string first = StatusBlock("proj/car", "1.1");
+  Client.When("status -v").Out(first + kSeparatorLine + StatusBlock("proj/car", "1.2"));
+  Client.When("-n edit").Out("proj/car\tanna\r\nproj/car\tbert\r\n");
+  ZRKECVSManager manager(Product("car"));
+  manager.RefreshStatus(Root("car"));
+  EXPECT_THAT(manager.StatusBlockTable, ElementsAre(Pair(Key("proj\\car"), first)));
+  EXPECT_THAT(manager.EditTable, ElementsAre(Pair(Key("proj\\car"), "proj/car\nanna")));
+}
+
+TEST_F(TheTables, AreFilledAnewByEachRefresh) {
+  Client.When("status -v").Once().Out(StatusBlock("proj/car", "1.1"));
+  Client.When("-n edit").Once().Out("proj/car\tanna\r\n");
+  Client.When("status -v").Out(StatusBlock("proj/car", "1.2"));
+  Client.When("-n edit").Out("proj/car\tbert\r\n");
+  ZRKECVSManager manager(Product("car"));
+  manager.RefreshStatus(Root("car"));
+  manager.RefreshStatus(Root("car"));
+  EXPECT_THAT(manager.StatusBlockTable, ElementsAre(Pair(Key("proj\\car"), StatusBlock("proj/car", "1.2"))));
+  EXPECT_THAT(manager.EditTable, ElementsAre(Pair(Key("proj\\car"), "proj/car\nbert")));
+}
+
+TEST_F(TheTables, AreEmptyWhenTheClientSaysNothing) {
+  ZRKECVSManager manager(Product("car"));
+  manager.StatusBlockTable["old"] = "block";
+  manager.EditTable["old"] = "line";
+  manager.RefreshStatus(Root("car"));
+  EXPECT_THAT(manager.StatusBlockTable, IsEmpty());
+  EXPECT_THAT(manager.EditTable, IsEmpty());
+}
+
+TEST_F(TheTables, HoldNoBlockWithoutItsLabel) {
+  Client.When("status -v").Out("cvs status: Examining proj\r\n=====\r\n");
+  ZRKECVSManager manager(Product("car"));
+  manager.RefreshStatus(Root("car"));
+  EXPECT_THAT(manager.StatusBlockTable, IsEmpty());
+}
+
+TEST_F(TheTables, HoldTheReportsOfAllBatches) {
+  const std::string first(20'000, 'a');
+  const std::string second(20'000, 'b');
+  Products.Add({.Name = "one", .Document = Folder.Host("proj") + "\\" + first});
+  Products.Add({.Name = "two", .Document = Folder.Host("proj") + "\\" + second});
+  Products.Place("axle", "1", "one").Place("axle", "2", "two");
+  // The first batch ends in the middle of the second one's block and line.
+  Client.When("status -v proj\\car").Out(StatusBlock("proj/car", "1.1") + "=====File: b\tStatus: c\r\n");
+  Client.When("status -v").Out("Repository revision:\t1.2\t/cvs/root/proj/b,v\r\n");
+  Client.When("-n edit proj\\car").Out("proj/car\tanna\r\nproj/");
+  Client.When("-n edit").Out("b\tbert\r\n");
+  ZRKECVSManager manager(Product("car"));
+  manager.RefreshStatus(Root("car"));
+  EXPECT_EQ(Client.Runs().size(), 4u);
+  EXPECT_THAT(manager.StatusBlockTable,
+              ElementsAre(Pair(Key("proj\\b"),
+                               "File: b\tStatus: c\r\nRepository revision:\t1.2\t/cvs/root/proj/b,v\r\n"),
+                          Pair(Key("proj\\car"), StatusBlock("proj/car", "1.1"))));
+  EXPECT_THAT(manager.EditTable,
+              ElementsAre(Pair(Key("proj\\b"), "proj/b\nbert"), Pair(Key("proj\\car"), "proj/car\nanna")));
+}

@@ -1,0 +1,42 @@
+#include "component/operations/OperationTest.h"
+#include "windows/LaunchLog.h"
+
+// Linux only: there the moment of each launch is known.
+
+namespace {
+
+class CommTimeAtLaunch : public OperationTest {
+protected:
+  ~CommTimeAtLaunch() override { standin::SetLaunchListener({}); }
+
+  // The time that stands there when a command is launched is set to a number that no run takes.
+  void SetWhenLaunched(const wchar_t* command, zrk::tools::Ticks ticks) {
+    standin::SetLaunchListener([this, command, ticks](const standin::Launch& launch) {
+      if (launch.CommandLine.find(command) != std::wstring::npos) Manager().CommTime = ticks;
+    });
+  }
+};
+
+}  // namespace
+
+TEST_F(CommTimeAtLaunch, TheUneditDoesNotCount) {
+  Client.When("status -v").Out(StatusReport());
+  Client.When("unedit").Repeat(2'000'000, "takes a while ");
+  SetWhenLaunched(L"unedit", 5);
+  EXPECT_EQ(Manager().Unedit(), 1);
+  EXPECT_EQ(Manager().CommTime, 5);
+}
+
+TEST_F(CommTimeAtLaunch, TheStatusPassIsAddedAndTheEditPassReplacesIt) {
+  SetReadOnly(Document());
+  Client.When("status -v").Out(StatusReport()).Repeat(2'000'000, "takes a while ");
+  constexpr zrk::tools::Ticks before = 1'000'000'000;
+  zrk::tools::Ticks atEditPass = 0;
+  Manager().CommTime = before;
+  standin::SetLaunchListener([&](const standin::Launch& launch) {
+    if (launch.CommandLine.find(L"-n edit") != std::wstring::npos) atEditPass = Manager().CommTime;
+  });
+  EXPECT_EQ(Manager().Unedit(), E_FAIL);
+  EXPECT_GT(atEditPass, before);
+  EXPECT_LT(Manager().CommTime, before);
+}

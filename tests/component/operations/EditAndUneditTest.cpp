@@ -1,0 +1,58 @@
+#include "ZRKICVSManager.h"
+#include "component/operations/OperationTest.h"
+
+// A file's way from the repository to the user and back, as the host sees it.
+
+namespace {
+
+using standin::DialogAnswer;
+
+class EditAndUnedit : public OperationTest {
+protected:
+  EditAndUnedit() {
+    SetReadOnly(Document());
+    Client.When("status -v").Out(StatusReport("1.4", "R5"));
+    Client.When("-x edit").MakeWritable(Document());
+    Client.When("unedit")
+        .Out("car body.CATProduct has been modified; revert changes? ")
+        .Read()
+        .MakeReadOnly(Document());
+  }
+
+  std::string Status() const {
+    const auto attributes = ReadStatusAttributes(Car());
+    return attributes ? attributes->Status : "none";
+  }
+};
+
+}  // namespace
+
+TEST_F(EditAndUnedit, TheFileIsTakenAndGivenBack) {
+  AnswerQuestions({DialogAnswer::Yes});
+  const ZRKICVSManager_var manager(Car());
+  ASSERT_TRUE(manager);
+  EXPECT_EQ(manager->Unedit(), E_FAIL);
+  EXPECT_EQ(Status(), "ReadOnly");
+  EXPECT_EQ(manager->Edit(), 0);
+  EXPECT_EQ(Status(), "Edit");
+  EXPECT_TRUE(IsWritable(Document()));
+  EXPECT_EQ(manager->Unedit(), 0);
+  EXPECT_EQ(Status(), "ReadOnly");
+  EXPECT_FALSE(IsWritable(Document()));
+  EXPECT_EQ(manager->Unedit(), E_FAIL);
+}
+
+TEST_F(EditAndUnedit, NoHandleStaysOpenBehindAnyOperation) {
+  AnswerQuestions({DialogAnswer::Yes, DialogAnswer::Yes});
+  const ZRKICVSManager_var manager(Car());
+  manager->Edit();
+  const int handles = CountOpenHandles();
+  manager->Unedit();
+  EXPECT_EQ(CountOpenHandles(), handles);
+  manager->Edit();
+  EXPECT_EQ(CountOpenHandles(), handles);
+  manager->Unedit();
+  EXPECT_EQ(CountOpenHandles(), handles);
+  manager->CVSRemove(Folder.Host("a.txt").c_str());
+  EXPECT_EQ(CountOpenHandles(), handles);
+}

@@ -1,0 +1,68 @@
+#include "product/ProductTree.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "CATISpecObject.h"
+#include "component/product/DeepAssembly.h"
+#include "support/Assembly.h"
+
+using testing::ElementsAre;
+using zrk::product::WalkProductTree;
+
+namespace {
+
+class AWalk : public testing::Test {
+protected:
+  // Paths visited, in order; below `stopAt` the walk does not go.
+  std::vector<std::string> Visited(const CATBaseUnknown_var& root, const std::string& stopAt = "-") {
+    std::vector<std::string> paths;
+    WalkProductTree(root, [&](const CATBaseUnknown_var& product) {
+      paths.push_back(standin::ProductPath(product));
+      return paths.back() != stopAt;
+    });
+    return paths;
+  }
+
+  TemporaryFolder folder_;
+  Assembly assembly_{folder_};
+};
+
+}  // namespace
+
+TEST_F(AWalk, VisitsParentsBeforeChildrenAndChildrenInOrder) {
+  assembly_.AddWithoutDocument("car").AddWithoutDocument("axle").AddWithoutDocument("wheel");
+  assembly_.Place("axle", "w.2", "wheel").Place("axle", "w.1", "wheel");
+  assembly_.Place("car", "b", "axle").Place("car", "a", "wheel").Place("car", "lost", std::nullopt);
+  EXPECT_THAT(Visited(assembly_.At("car")),
+              ElementsAre("car", "car/b", "car/b/w.2", "car/b/w.1", "car/a", "car/lost"));
+}
+
+TEST_F(AWalk, StartsAtThePlaceItIsGiven) {
+  assembly_.AddWithoutDocument("car").AddWithoutDocument("axle").AddWithoutDocument("wheel");
+  assembly_.Place("axle", "w", "wheel").Place("car", "a", "axle").Place("car", "b", "axle");
+  EXPECT_THAT(Visited(assembly_.At("car/b")), ElementsAre("car/b", "car/b/w"));
+}
+
+TEST_F(AWalk, DoesNotGoBelowAProductThatStopsItButOnToTheNext) {
+  assembly_.AddWithoutDocument("car").AddWithoutDocument("axle").AddWithoutDocument("wheel");
+  assembly_.Place("axle", "w", "wheel").Place("car", "a", "axle").Place("car", "b", "axle");
+  EXPECT_THAT(Visited(assembly_.At("car"), "car/a"), ElementsAre("car", "car/a", "car/b", "car/b/w"));
+  EXPECT_THAT(Visited(assembly_.At("car"), "car"), ElementsAre("car"));
+}
+
+TEST_F(AWalk, SeesItsProductsAsSpecificationObjects) {
+  assembly_.AddWithoutDocument("car").AddWithoutDocument("axle").Place("car", "a", "axle");
+  WalkProductTree(assembly_.At("car"), [](const CATBaseUnknown_var& product) {
+    EXPECT_TRUE(CATISpecObject_var(product));
+    return true;
+  });
+}
+
+TEST_F(AWalk, OfADeepTreeCostsNoStack) {
+  constexpr int kLevels = 5000;
+  AddChain(assembly_, folder_.Host(), kLevels);
+  int visits = 0;
+  WalkProductTree(assembly_.At("p0"), [&](const CATBaseUnknown_var&) { return ++visits > 0; });
+  EXPECT_EQ(visits, kLevels);
+}

@@ -1,0 +1,88 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "component/tools/ToolRunner.h"
+#include "support/Files.h"
+#include "support/HandleCount.h"
+
+using zrk::tools::AnswerTool;
+
+namespace {
+
+constexpr char kQuestion[] = "car.CATPart has been modified; revert changes? ";
+
+class Answer : public testing::Test {
+protected:
+  // Answers the client's question and gives all that the client read.
+  std::string Give(const char* answer) {
+    EXPECT_EQ(tool_.Run("unedit"), kQuestion);
+    AnswerTool(tool_.Context(), answer);
+    return tool_.Client.Runs().back().Input;
+  }
+  bool IsDone() const { return std::filesystem::exists(tool_.Folder / "done"); }
+
+  ToolRunner tool_;
+};
+
+}  // namespace
+
+TEST_F(Answer, YesIsThreeLettersAndAZero) {
+  tool_.Client.Otherwise().Out(kQuestion).ReadAll();
+  EXPECT_EQ(Give("yes"), std::string("yes\0", 4));
+}
+
+TEST_F(Answer, NoIsTwoLettersAndAZero) {
+  tool_.Client.Otherwise().Out(kQuestion).ReadAll();
+  EXPECT_EQ(Give("no"), std::string("no\0", 3));
+}
+
+TEST_F(Answer, NoneIsTheEndOfTheClientsInput) {
+  tool_.Client.Otherwise().Out(kQuestion).ReadAll();
+  EXPECT_EQ(Give(nullptr), "");
+}
+
+TEST_F(Answer, WhatTheClientDoesUponItIsDoneOnReturn) {
+  tool_.Client.Otherwise().Out(kQuestion).Read().Store("done", "x");
+  Give("yes");
+  EXPECT_TRUE(IsDone());
+}
+
+TEST_F(Answer, WhatTheClientGoesOnToWriteIsReadToItsEnd) {
+  tool_.Client.Otherwise()
+      .Out(kQuestion)
+      .Read()
+      .Repeat(100'000, "a line of ten words or so\r\n")
+      .Store("done", "x");
+  Give("yes");
+  EXPECT_TRUE(IsDone());
+}
+
+TEST_F(Answer, ToAClientThatDiedIsLost) {
+  tool_.Client.Otherwise().Out(kQuestion).Crash();
+  EXPECT_EQ(Give("yes"), "");
+}
+
+TEST_F(Answer, ToAClientThatEndedIsLost) {
+  tool_.Client.Otherwise().Out(kQuestion);
+  EXPECT_EQ(Give("yes"), "");
+}
+
+TEST_F(Answer, ToAClientThatClosedItsInputIsLostAndTheClientEnds) {
+  tool_.Client.Otherwise().Out("has been modified; ").CloseInput().Out("revert changes?").Store("done", "x");
+  tool_.Run("unedit");
+  AnswerTool(tool_.Context(), "yes");
+  EXPECT_TRUE(IsDone());
+}
+
+TEST_F(Answer, ThePipesAreClosedBehindIt) {
+  tool_.Client.Otherwise().Out(kQuestion).ReadAll();
+  Give("yes");
+  tool_.ClosePipes();
+  const int handles = CountOpenHandles();
+  Give("yes");
+  EXPECT_EQ(CountOpenHandles(), handles);
+  EXPECT_EQ(tool_.ChildInput.Write.Get(), nullptr);
+  EXPECT_EQ(tool_.ChildOutput.Read.Get(), nullptr);
+}

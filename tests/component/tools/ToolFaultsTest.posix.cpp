@@ -1,0 +1,105 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "component/tools/ToolRunner.h"
+#include "support/DebugMessages.h"
+#include "support/HandleCount.h"
+#include "windows/WindowsControl.h"
+
+// Every call to the system that can fail is made to, and told of in the words that are promised.
+
+using standin::WindowsCall;
+
+namespace {
+
+using Messages = std::vector<std::wstring>;
+
+class ToolFaults : public testing::Test {
+protected:
+  ToolFaults() { tool_.Client.Otherwise().Out("text"); }
+  ~ToolFaults() override {
+    for (const WindowsCall call :
+         {WindowsCall::CreatePipe, WindowsCall::SetHandleInformation, WindowsCall::CreateProcess,
+          WindowsCall::ReadFile, WindowsCall::WriteFile, WindowsCall::CloseHandle}) {
+      standin::FailWindowsCall(call, -1);
+    }
+  }
+
+  // What stands in an output that held "old " when that call fails.
+  std::string RunFailing(WindowsCall call, int successes) {
+    const int handles = CountOpenHandles();
+    standin::FailWindowsCall(call, successes);
+    const std::string output = tool_.Run("status", "old ");
+    standin::FailWindowsCall(call, -1);
+    tool_.ClosePipes();
+    EXPECT_EQ(CountOpenHandles(), handles) << "handles left open";
+    return output;
+  }
+
+  ToolRunner tool_;
+  DebugMessages messages_;
+};
+
+}  // namespace
+
+TEST_F(ToolFaults, NoPipeForTheOutput) {
+  EXPECT_EQ(RunFailing(WindowsCall::CreatePipe, 0), "old ");
+  EXPECT_EQ(messages_.All(), Messages{L"Stdout pipe creation failed\n"});
+  EXPECT_TRUE(tool_.Client.Runs().empty());
+}
+
+TEST_F(ToolFaults, NoPipeForTheInput) {
+  EXPECT_EQ(RunFailing(WindowsCall::CreatePipe, 1), "old ");
+  EXPECT_EQ(messages_.All(), Messages{L"Stdin pipe creation failed\n"});
+  EXPECT_TRUE(tool_.Client.Runs().empty());
+}
+
+TEST_F(ToolFaults, NoProcessIsToldByTheLaunchAndThenByTheRun) {
+  EXPECT_EQ(RunFailing(WindowsCall::CreateProcess, 0), "old ");
+  EXPECT_EQ(messages_.All(), (Messages{L"CreateProcess failed\n", L"Create process failed with"}));
+}
+
+TEST_F(ToolFaults, OnlyTheWriteEndOfTheOutputMustClose) {
+  // Which of the closings it is does not matter; the others are not looked at.
+  int told = 0;
+  for (int successes = 0; successes < 8; ++successes) {
+    messages_.Clear();
+    const std::string output = RunFailing(WindowsCall::CloseHandle, successes);
+    if (messages_.All().empty()) {
+      EXPECT_EQ(output, "old text") << successes;
+    } else {
+      EXPECT_EQ(output, "old ") << successes;
+      EXPECT_EQ(messages_.All(), Messages{L"Closing handle failed\n"}) << successes;
+      ++told;
+    }
+  }
+  EXPECT_EQ(told, 1);
+}
+
+TEST_F(ToolFaults, HandlesThatStayInheritableDoNotStopTheRun) {
+  EXPECT_EQ(RunFailing(WindowsCall::SetHandleInformation, 0), "old text");
+  EXPECT_EQ(RunFailing(WindowsCall::SetHandleInformation, 1), "old text");
+  EXPECT_TRUE(messages_.All().empty());
+}
+
+TEST_F(ToolFaults, AReadThatFailsIsTheEndOfTheOutput) {
+  EXPECT_EQ(RunFailing(WindowsCall::ReadFile, 0), "old ");
+  EXPECT_TRUE(messages_.All().empty());
+}
+
+TEST_F(ToolFaults, WhatWasReadBeforeAReadFailsIsKept) {
+  tool_.Client.ClearRules();
+  tool_.Client.Otherwise().Out(std::string(4096, 'x') + "lost");
+  EXPECT_EQ(RunFailing(WindowsCall::ReadFile, 1), "old " + std::string(4096, 'x'));
+}
+
+TEST_F(ToolFaults, TheRunAfterAFailureIsAsEver) {
+  for (const WindowsCall call : {WindowsCall::CreatePipe, WindowsCall::CreateProcess, WindowsCall::ReadFile,
+                                 WindowsCall::CloseHandle}) {
+    RunFailing(call, 0);
+    EXPECT_EQ(tool_.Run(), "text");
+    tool_.ClosePipes();
+  }
+}

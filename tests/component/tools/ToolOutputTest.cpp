@@ -1,0 +1,121 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "component/tools/ToolRunner.h"
+#include "support/DebugMessages.h"
+#include "support/HandleCount.h"
+
+namespace {
+
+constexpr std::size_t kChunk = 4096;
+
+}  // namespace
+
+TEST(ToolOutput, IsAppendedToWhatTheCallerHas) {
+  ToolRunner tool;
+  tool.Client.Otherwise().Out("new");
+  EXPECT_EQ(tool.Run("status", "old "), "old new");
+}
+
+TEST(ToolOutput, StandardErrorComesInBetween) {
+  ToolRunner tool;
+  tool.Client.Otherwise().Out("one\r\n").Error("two\r\n").Out("three\r\n").Error("four\r\n");
+  EXPECT_EQ(tool.Run(), "one\r\ntwo\r\nthree\r\nfour\r\n");
+}
+
+TEST(ToolOutput, AClientThatPrintsNothingLeavesItAsItIs) {
+  ToolRunner tool;
+  const DebugMessages messages;
+  EXPECT_EQ(tool.Run("status", "old"), "old");
+  EXPECT_EQ(tool.Client.Runs().size(), 1u);
+  EXPECT_TRUE(messages.All().empty());
+}
+
+TEST(ToolOutput, OfAClientThatCrashesIsWhatCameBefore) {
+  ToolRunner tool;
+  tool.Client.Otherwise().Out("partial").Crash();
+  const DebugMessages messages;
+  EXPECT_EQ(tool.Run(), "partial");
+  EXPECT_TRUE(messages.All().empty());
+}
+
+TEST(ToolOutput, IsKeptWhateverStatusTheClientEndsWith) {
+  ToolRunner tool;
+  tool.Client.Otherwise().Out("refused").Exit(1);
+  EXPECT_EQ(tool.Run(), "refused");
+}
+
+TEST(ToolOutput, EndsWhenTheClientClosesItsStreams) {
+  ToolRunner tool;
+  tool.Client.Otherwise().Out("all").CloseOutput().Hang();
+  EXPECT_EQ(tool.Run(), "all");
+}
+
+TEST(ToolOutput, MayEndAtTheEdgeOfAChunk) {
+  for (const std::size_t size : {kChunk - 1, kChunk, kChunk + 1, 2 * kChunk, 3 * kChunk}) {
+    ToolRunner tool;
+    tool.Client.Otherwise().Repeat(size, "x");
+    EXPECT_EQ(tool.Run(), std::string(size, 'x')) << size;
+  }
+}
+
+TEST(ToolOutput, ACharacterMayLieAcrossTheEdgeOfAChunk) {
+  const std::string text = std::string(kChunk - 1, 'x') + "\xC3\xA4" + "\r\n";
+  ToolRunner tool;
+  tool.Client.Otherwise().Out(text);
+  EXPECT_EQ(tool.Run(), text);
+}
+
+TEST(ToolOutput, BytesThatAreNoTextComeThroughAsTheyAre) {
+  std::string bytes;
+  for (int byte = 1; byte < 256; ++byte) bytes += static_cast<char>(byte);
+  ToolRunner tool;
+  tool.Client.Otherwise().Out(bytes);
+  EXPECT_EQ(tool.Run(), bytes);
+}
+
+TEST(ToolOutput, AChunkIsCutAtItsFirstZeroAndTheNextOneFollows) {
+  // The client writes a whole chunk in one piece, so it is read as one.
+  std::string bytes = "kept" + std::string(kChunk - 4, 'x') + "next";
+  bytes[4] = '\0';
+  ToolRunner tool;
+  tool.Client.Otherwise().Out(bytes);
+  EXPECT_EQ(tool.Run("status", "old "), "old keptnext");
+}
+
+TEST(ToolOutput, AChunkThatBeginsWithAZeroAddsNothing) {
+  std::string bytes = std::string(kChunk, 'x') + "next";
+  bytes[0] = '\0';
+  ToolRunner tool;
+  tool.Client.Otherwise().Out(bytes);
+  EXPECT_EQ(tool.Run(), "next");
+}
+
+TEST(ToolOutput, MayBeAHundredMegabytes) {
+  const std::string line = "File: wheel left.CATPart  \tStatus: Up-to-date\r\n\r\n";
+  const std::size_t count = 100'000'000 / line.size();
+  ToolRunner tool;
+  tool.Client.Otherwise().Repeat(count, line).Out("end");
+  const std::string output = tool.Run();
+  ASSERT_EQ(output.size(), count * line.size() + 3);
+  EXPECT_EQ(output.substr(0, line.size()), line);
+  EXPECT_EQ(output.substr(output.size() - line.size() - 3), line + "end");
+}
+
+TEST(ToolOutput, NoHandleStaysOpenWhenTheRunIsOver) {
+  ToolRunner tool;
+  tool.Client.Otherwise().Out("text");
+  tool.Run();
+  tool.ClosePipes();
+  const int handles = CountOpenHandles();
+  for (int i = 0; i < 20; ++i) tool.Run();
+  tool.ClosePipes();
+  EXPECT_EQ(CountOpenHandles(), handles);
+}
+
+TEST(ToolOutput, TheWriteEndOfTheClientsInputStaysOpenForAnAnswer) {
+  ToolRunner tool;
+  tool.Run();
+  EXPECT_NE(tool.ChildInput.Write.Get(), nullptr);
+}
