@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+// From a command line made for the Windows client to one for the Subversion of this system; both without
+// the program's name.
+//
+// - "--non-interactive" comes first: nobody sits in front of the client to type a password;
+// - "\" in a path becomes "/", and a path that holds "@" ends in "@": the client would take what follows
+//   its last "@" for a revision. URLs, option values and messages stay as they are;
+// - `delete` of paths loses its message, which the client takes for URLs only, where it commits at once.
+std::vector<std::string> TranslateSVNArguments(const std::vector<std::string>& arguments);
