@@ -1,0 +1,80 @@
+// A whole refresh with the real CVS client, and the same client commands run bare from a shell.
+
+#include <cstdlib>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "Measurement.h"
+#include "ZRKICVSManager.h"
+#include "support/Assembly.h"
+#include "support/CVSRepository.h"
+#include "support/Command.h"
+#include "support/EnvironmentVariable.h"
+#include "support/Files.h"
+#include "support/Launches.h"
+#include "support/Session.h"
+
+namespace {
+
+constexpr int kFiles = 5'000;
+
+std::string DocumentName(int file) {
+  return "folder " + std::to_string(file / 100) + "/part" + std::to_string(file) + ".CATPart";
+}
+
+// What the launches told Windows' command line, for a shell: the client itself, "/" in paths, and the
+// question for editors in the client's own words.
+std::string ShellScript(const std::vector<standin::Launch>& launches, const std::string& folder) {
+  std::string script = "cd '" + folder + "'\n";
+  for (const standin::Launch& launch : launches) {
+    std::string line(launch.CommandLine.begin(), launch.CommandLine.end());
+    for (char& character : line) {
+      if (character == '\\') character = '/';
+    }
+    if (const std::size_t edit = line.find("-n edit"); edit != std::string::npos) {
+      line.replace(edit, 7, "editors");
+    }
+    script += "cvs" + line + " >/dev/null 2>&1\n";
+  }
+  return script;
+}
+
+}  // namespace
+
+Measurements MeasureCVSRefresh() {
+  constexpr int kRounds = 5;
+  const Session session;
+  const TemporaryFolder folder;
+  const CVSRepository repository(folder / "repository");
+  std::map<std::string, std::string> files;
+  files["car.CATProduct"] = "car\n";
+  for (int file = 1; file < kFiles; ++file) files[DocumentName(file)] = "part\n";
+  repository.Import("car", files);
+  repository.Checkout("car", folder.Path());
+
+  Assembly assembly(folder);
+  assembly.Add("car", "car/car.CATProduct");
+  for (int file = 1; file < kFiles; ++file) {
+    const std::string name = "part" + std::to_string(file);
+    assembly.Add(name, "car/" + DocumentName(file)).Place("car", name, name);
+  }
+  const EnvironmentVariable path("PATH", std::string(std::getenv("PATH")) + ":" + CLIENTS_FOLDER);
+  const CATBaseUnknown_var root = assembly.At("car");
+  const ZRKICVSManager_var manager(root);
+  std::vector<standin::Launch> launches;
+  {
+    const Launches recorded;
+    manager->RefreshStatus(root);
+    launches = recorded.All();
+  }
+  const auto attributes = ReadStatusAttributes(assembly.At("car/part1"));
+  if (!attributes || attributes->Revision.empty()) throw std::runtime_error("the refresh wrote nothing");
+
+  WriteFile(folder / "bare.sh", ShellScript(launches, folder.Path().string()));
+  const std::vector<std::string> bare = {"sh", (folder / "bare.sh").string()};
+  const SideBySide result = Compare(
+      kRounds, [&] { manager->RefreshStatus(root); }, [&] { RunCommandOrThrow(bare); });
+  return {{"Refresh of 5,000 files with CVS to its bare commands", result.Ratio(), "times", 1.05,
+           result.Detail("refresh", "commands") + ", " + std::to_string(launches.size()) + " runs"}};
+}

@@ -1,0 +1,44 @@
+#include "Measurement.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <limits>
+
+namespace {
+
+double SecondsOnce(const std::function<void()>& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+}  // namespace
+
+double Seconds(int rounds, const std::function<void()>& work) {
+  double fastest = std::numeric_limits<double>::infinity();
+  for (int round = 0; round < rounds; ++round) fastest = std::min(fastest, SecondsOnce(work));
+  return fastest;
+}
+
+std::string SideBySide::Detail(const std::string& first, const std::string& second) const {
+  char text[200];
+  std::snprintf(text, sizeof(text), "%s %.4g s, %s %.4g s", first.c_str(), First, second.c_str(), Second);
+  return text;
+}
+
+SideBySide Compare(int rounds, const std::function<void()>& first, const std::function<void()>& second) {
+  constexpr double kNone = std::numeric_limits<double>::infinity();
+  SideBySide result{kNone, kNone};
+  for (int round = 0; round < rounds; ++round) {
+    result.First = std::min(result.First, SecondsOnce(first));
+    result.Second = std::min(result.Second, SecondsOnce(second));
+  }
+  return result;
+}
+
+Measurement Growth(const std::string& name, int rounds, double factor, const std::function<void()>& small,
+                   const std::function<void()>& large, double goal) {
+  const SideBySide result = Compare(rounds, large, small);
+  return {name, result.Ratio() / factor, "of linear", goal, result.Detail("large", "small")};
+}

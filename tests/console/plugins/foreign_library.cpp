@@ -1,0 +1,3 @@
+extern "C" int SomethingElse() {
+  return 1;
+}

@@ -1,0 +1,58 @@
+#include "CommandSource.h"
+
+#include <iostream>
+#include <iterator>
+
+#include "CallError.h"
+#include "CommandText.h"
+#include "Encoding.h"
+#include "TextFile.h"
+
+namespace zrkhost {
+
+namespace {
+
+void AddCommand(std::vector<SourcedCommand>& commands, const std::string& source, const std::string& line) {
+  try {
+    if (auto command = ParseCommand(line)) commands.push_back({source, std::move(*command)});
+  } catch (const CallError& error) {
+    throw CallError(source + ": " + Utf8FromNative(error.what()));
+  }
+}
+
+void AddLines(std::vector<SourcedCommand>& commands, const std::string& name, const std::string& text) {
+  int number = 0;
+  for (const auto& line : SplitLines(text)) {
+    AddCommand(commands, name + ": line " + std::to_string(++number), line);
+  }
+}
+
+std::string ReadStandardInput() {
+  return {std::istreambuf_iterator<char>(std::cin), std::istreambuf_iterator<char>()};
+}
+
+}  // namespace
+
+std::vector<SourcedCommand> ReadCommands(const Options& options) {
+  std::vector<SourcedCommand> commands;
+  for (const auto& line : options.Commands) AddCommand(commands, "-c " + Utf8FromNative(line), line);
+  if (options.CommandFile && *options.CommandFile != "-") {
+    const auto file = PathFromNative(*options.CommandFile);
+    AddLines(commands, Utf8FromPath(file), ReadTextFile(file));
+  } else if (options.CommandFile || options.Commands.empty()) {
+    AddLines(commands, "standard input", ReadStandardInput());
+  }
+  return commands;
+}
+
+void CheckProducts(const std::vector<SourcedCommand>& commands, const HostSession& session) {
+  for (const auto& [source, command] : commands) {
+    try {
+      CheckProduct(command, session);
+    } catch (const CallError& error) {
+      throw CallError(source + ": " + Utf8FromNative(error.what()));
+    }
+  }
+}
+
+}  // namespace zrkhost

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+// Between UTF-8, in which session files and reports are written, and the platform's own texts: wide, and
+// 8-bit in the native encoding (UTF-8 on Linux, the active code page on Windows).
+namespace zrkhost {
+
+// Always well-formed: what is no character becomes U+FFFD.
+std::string Utf8FromWide(std::wstring_view text);
+std::string Utf8FromNative(std::string_view text);
+
+// On Linux the bytes as they are, well-formed or not.
+std::string NativeFromUtf8(std::string_view text);
+
+std::filesystem::path PathFromNative(const std::string& text);
+std::filesystem::path PathFromUtf8(std::string_view text);
+// For people to read, and for names that are made from paths.
+std::string Utf8FromPath(const std::filesystem::path& path);
+
+}  // namespace zrkhost

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+
+#include "SessionDescription.h"
+
+namespace zrkhost {
+
+// A session made from a working copy: every file below `folder`, the clients' own folders CVS and .svn aside,
+// is the document of a product that is named after the file's path below `folder`, with "/". The root is the
+// file `root`, or the first by name at the top of the folder; all others are its children, by name.
+// Folders behind symbolic links are not entered. Throws CallError.
+SessionDescription SessionOfFolder(const std::filesystem::path& folder,
+                                   const std::optional<std::filesystem::path>& root);
+
+}  // namespace zrkhost

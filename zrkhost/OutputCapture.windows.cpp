@@ -1,0 +1,91 @@
+#include "OutputCapture.h"
+
+#include <fcntl.h>
+#include <io.h>
+#include <sys/stat.h>
+#include <windows.h>
+
+#include <array>
+#include <cerrno>
+#include <iostream>
+#include <system_error>
+
+namespace zrkhost {
+
+namespace {
+
+constexpr int kStandardOutput = 1;
+
+// Gone from the disk when it is closed.
+int OpenTemporaryFile() {
+  std::array<wchar_t, MAX_PATH + 1> folder{};
+  std::array<wchar_t, MAX_PATH + 1> name{};
+  if (!GetTempPathW(static_cast<DWORD>(folder.size()), folder.data()) ||
+      !GetTempFileNameW(folder.data(), L"zrk", 0, name.data())) {
+    return -1;
+  }
+  return _wopen(name.data(), _O_RDWR | _O_TEMPORARY | _O_BINARY | _O_NOINHERIT, _S_IREAD | _S_IWRITE);
+}
+
+}  // namespace
+
+struct OutputCapture::Descriptors {
+  int Real = -1;
+  int File = -1;
+};
+
+OutputCapture::OutputCapture() : descriptors_(std::make_unique<Descriptors>()) {
+  std::cout.flush();
+  descriptors_->Real = _dup(kStandardOutput);
+  descriptors_->File = OpenTemporaryFile();
+  if (descriptors_->File < 0 || _dup2(descriptors_->File, kStandardOutput) < 0) {
+    throw std::system_error(errno, std::generic_category(), "standard output cannot be captured");
+  }
+  // As standard output always is; ReadNew undoes what it does to line ends.
+  _setmode(kStandardOutput, _O_TEXT);
+}
+
+OutputCapture::~OutputCapture() {
+  Forward();
+  if (descriptors_->Real >= 0) {
+    _dup2(descriptors_->Real, kStandardOutput);
+    _close(descriptors_->Real);
+  }
+  _close(descriptors_->File);
+}
+
+int OutputCapture::RealOutput() const {
+  return descriptors_->Real;
+}
+
+std::string OutputCapture::ReadNew() {
+  // Both descriptors share one position, so nothing is left in the file between two calls.
+  std::string text;
+  std::array<char, 65536> buffer;
+  _lseek(descriptors_->File, 0, SEEK_SET);
+  for (;;) {
+    const int count = _read(descriptors_->File, buffer.data(), static_cast<unsigned int>(buffer.size()));
+    if (count <= 0) break;
+    text.append(buffer.data(), static_cast<std::size_t>(count));
+  }
+  _lseek(descriptors_->File, 0, SEEK_SET);
+  _chsize(descriptors_->File, 0);
+  std::string::size_type at = 0;
+  while ((at = text.find("\r\n", at)) != std::string::npos) text.erase(at++, 1);
+  return text;
+}
+
+void OutputCapture::WriteReal(std::string_view text) {
+  while (!text.empty()) {
+    // A single write to a console is limited.
+    const auto size = static_cast<unsigned int>(std::min<std::size_t>(text.size(), 16384));
+    const int count = _write(descriptors_->Real, text.data(), size);
+    if (count <= 0) {
+      good_ = false;
+      return;
+    }
+    text.remove_prefix(static_cast<std::size_t>(count));
+  }
+}
+
+}  // namespace zrkhost

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "SessionDescription.h"
+
+namespace zrkhost {
+
+// The largest tree that is built. A few references nested in each other can describe more places than any
+// memory holds.
+constexpr std::size_t kMostPlaces = 2'000'000;
+// The deepest tree that is built; products below each other are walked by recursion in places.
+constexpr std::size_t kMostLevels = 10'000;
+
+// Throws CallError with the JSON pointer of the place when the products do not fit together: a root or a
+// reference that is not described, a product that contains itself, a tree that is too large.
+void CheckStructure(const SessionDescription& session, const std::string& fileName);
+
+}  // namespace zrkhost

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <filesystem>
+
+// The program's own place and its environment.
+namespace zrkhost {
+
+// The component library beside this program, or where it was installed to go with it.
+std::filesystem::path DefaultPlugin();
+// The folder of the client adapters that go with this program; empty when there is none.
+std::filesystem::path DefaultClients();
+
+// Puts a folder behind those of the PATH environment variable.
+void AppendToPath(const std::filesystem::path& folder);
+
+// Absolute path of the running program.
+std::filesystem::path ProgramFile();
+// What the platform calls the component library's file.
+const char* PluginFileName();
+
+}  // namespace zrkhost

@@ -1,0 +1,22 @@
+#include <cstdlib>
+#include <string>
+
+#include "Surroundings.h"
+
+namespace zrkhost {
+
+std::filesystem::path ProgramFile() {
+  return std::filesystem::read_symlink("/proc/self/exe");
+}
+
+const char* PluginFileName() {
+  return "libZRKCVSManager.so";
+}
+
+void AppendToPath(const std::filesystem::path& folder) {
+  const char* path = std::getenv("PATH");
+  const std::string before = path && *path ? path + std::string(":") : std::string();
+  setenv("PATH", (before + folder.string()).c_str(), 1);
+}
+
+}  // namespace zrkhost

@@ -1,0 +1,97 @@
+#include <exception>
+#include <memory>
+
+#include "CallError.h"
+#include "CommandLine.h"
+#include "CommandSource.h"
+#include "Console.h"
+#include "Encoding.h"
+#include "EventLog.h"
+#include "FolderSession.h"
+#include "HostSession.h"
+#include "OutputCapture.h"
+#include "Plugin.h"
+#include "Report.h"
+#include "SessionFile.h"
+#include "Surroundings.h"
+#include "Terminal.h"
+#include "User.h"
+
+namespace {
+
+using namespace zrkhost;
+
+constexpr int kAllWell = 0;
+constexpr int kCommandFailed = 1;
+constexpr int kNothingRun = 2;
+
+SessionDescription Describe(const Options& options) {
+  if (options.SessionFile) return ReadSessionFile(PathFromNative(*options.SessionFile));
+  std::optional<std::filesystem::path> root;
+  if (options.Root) root = PathFromNative(*options.Root);
+  return SessionOfFolder(PathFromNative(*options.Folder), root);
+}
+
+void PrepareClients(const Options& options) {
+  if (options.Clients == "none") return;
+  auto folder = DefaultClients();
+  if (options.Clients) {
+    folder = std::filesystem::absolute(PathFromNative(*options.Clients));
+    std::error_code error;
+    if (!std::filesystem::is_directory(folder, error))
+      throw CallError(Utf8FromPath(folder) + ": is not a folder");
+  }
+  if (!folder.empty()) AppendToPath(folder);
+}
+
+int Run(const Options& options) {
+  const bool prompt = options.Commands.empty() && !options.CommandFile && IsTerminal(0);
+  const auto description = Describe(options);
+  std::vector<SourcedCommand> commands;
+  if (!prompt) commands = ReadCommands(options);
+  PrepareClients(options);
+
+  OutputCapture output;
+  const Plugin plugin(options.Plugin ? PathFromNative(*options.Plugin) : DefaultPlugin());
+  const HostSession session(description);
+  CheckProducts(commands, session);
+  std::unique_ptr<Report> report;
+  if (options.Report) report = std::make_unique<Report>(PathFromNative(*options.Report));
+
+  std::optional<bool> answer;
+  if (options.Answer) answer = *options.Answer == "yes";
+  User user(output, answer);
+  EventLog events(user, options.Verbose);
+  Console console(session, plugin, output, events, report.get());
+  if (prompt) {
+    console.RunPrompt();
+  } else {
+    console.RunAll(commands);
+  }
+
+  bool written = true;
+  if (report && !report->Write(session)) {
+    PrintError(*options.Report + ": the report cannot be written");
+    written = false;
+  }
+  output.Forward();
+  if (!output.Good()) {
+    PrintError("standard output cannot be written");
+    written = false;
+  }
+  return console.Failed() || !written ? kCommandFailed : kAllWell;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    int status = 0;
+    const auto options = ParseCommandLine(argc, argv, status);
+    return options ? Run(*options) : status;
+  } catch (const std::exception& error) {
+    // Whatever goes wrong once commands run is told by the console itself.
+    PrintError(error.what());
+    return kNothingRun;
+  }
+}
