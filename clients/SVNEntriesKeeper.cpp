@@ -14,6 +14,13 @@ namespace fs = std::filesystem;
 constexpr const char* kRootFirstLine = "12\n";
 constexpr const char* kFirstLine = "text\n";
 
+// Without a closing slash.
+fs::path Absolute(const std::string& path) {
+  std::error_code none;
+  const fs::path absolute = fs::absolute(path, none).lexically_normal();
+  return absolute.has_filename() ? absolute : absolute.parent_path();
+}
+
 fs::path EntriesFile(const fs::path& folder) {
   return folder / ".svn" / "entries";
 }
@@ -54,7 +61,10 @@ void Keep(const fs::path& folder, bool below, const SVNCapture& runSVN) {
   // A closing "@": the client would take what follows another one for a revision.
   const std::string report = runSVN({"--non-interactive", "info", "--xml", "--depth",
                                      below ? "infinity" : "immediates", folder.string() + "@"});
-  for (const auto& [path, text] : BuildSVNEntriesTexts(ParseSVNInfo(report))) {
+  std::vector<SVNEntry> entries = ParseSVNInfo(report);
+  // The client shortens what lies in the folder that it runs in.
+  for (SVNEntry& entry : entries) entry.Path = Absolute(entry.Path).string();
+  for (const auto& [path, text] : BuildSVNEntriesTexts(entries)) {
     if (below || path == folder) Write(path, (path == root ? kRootFirstLine : kFirstLine) + text);
   }
 }
@@ -67,9 +77,8 @@ void KeepSVNEntries(const std::vector<std::string>& arguments, const SVNCapture&
     if (argument.empty() || argument.starts_with('-')) continue;
     if (!std::exchange(behindCommand, true)) continue;
     if (argument.ends_with('@')) argument.pop_back();
+    const fs::path path = Absolute(argument);
     std::error_code none;
-    fs::path path = fs::absolute(argument, none).lexically_normal();
-    if (!path.has_filename()) path = path.parent_path();
     const bool isFolder = fs::is_directory(path, none);
     if (isFolder || fs::is_directory(path.parent_path(), none)) {
       Keep(isFolder ? path : path.parent_path(), isFolder, runSVN);
