@@ -1,0 +1,74 @@
+#include "component/faults/FaultStage.h"
+
+#include <chrono>
+#include <thread>
+
+#include "component/svn/EntriesText.h"
+#include "debug/DebugChannel.h"
+#include "support/CVSFolder.h"
+#include "support/Files.h"
+#include "windows/LaunchLog.h"
+#include "windows/WindowsControl.h"
+
+namespace faults {
+
+FaultStage::FaultStage(Kind kind) {
+  products_.Add("car", "wc/car.CATPart");
+  if (kind == Kind::CVS) {
+    WriteCVSFolder(folder_ / "wc", "/cvs/root", "wc");
+  } else {
+    WriteFile(folder_ / "wc/.svn/entries",
+              entries::Format(10) + entries::File(10, "car.CATPart", "9", "bert"));
+  }
+  standin::SetDebugListener([this](const std::wstring& message) {
+    if (message.starts_with(L'\n')) return;
+    if (messages_.empty()) launchesBeforeMessages_ = launches_;
+    messages_.push_back(message);
+  });
+  standin::SetLaunchListener([this](const standin::Launch& launch) {
+    ++launches_;
+    if (!launch.Started) launchFailed_ = true;
+  });
+  manager_ = Car();
+}
+
+FaultStage::~FaultStage() {
+  standin::SetLaunchListener({});
+  standin::SetDebugListener({});
+}
+
+std::string FaultStage::InputOf(const std::string& command) const {
+  for (const ClientRun& run : Clients.Runs()) {
+    if (run.Joined().find(command) != std::string::npos) return run.Input;
+  }
+  return "not run";
+}
+
+void FaultStage::AnswerQuestions(std::deque<standin::DialogAnswer> answers) {
+  user_.reset();
+  user_.emplace(std::move(answers));
+}
+
+std::string FaultStage::StatusReport() {
+  return "===================================================================\r\n"
+         "File: car.CATPart\tStatus: Up-to-date\r\n\r\n"
+         "   Working revision:\t1.4\r\n"
+         "   Repository revision:\t1.4\t/cvs/root/wc/car.CATPart,v\r\n\r\n";
+}
+
+std::string FaultStage::XMLReport() {
+  return "<?xml version=\"1.0\"?>\r\n<status>\r\n<entry\r\n   "
+         "path=\"car.CATPart\">\r\n<repos-status>\r\n<lock>\r\n"
+         "<owner>bert</owner>\r\n</lock>\r\n</repos-status>\r\n</entry>\r\n</status>\r\n";
+}
+
+bool AllClientsEnd() {
+  const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+  while (standin::LiveChildCount() > 0) {
+    if (std::chrono::steady_clock::now() > deadline) return false;
+    std::this_thread::yield();
+  }
+  return true;
+}
+
+}  // namespace faults
