@@ -1,2 +1,28 @@
-# The CMake package through which a module of the host finds the component's exported header, the
-# interface library and the component.
+# What other modules of the host need: the component with its exported header, the interface library with
+# its headers, the host's headers and library that both are built against, and a CMake package for them.
+
+include(CMakePackageConfigHelpers)
+
+set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/ZRKCVSManager)
+set(header_folder ${CMAKE_INSTALL_INCLUDEDIR}/ZRKCVSManager)
+
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/ZRKCVSManager/include/ ${PROJECT_SOURCE_DIR}/ZRKVersionControlItf/include/
+                  ${PROJECT_SOURCE_DIR}/host/include/
+        DESTINATION ${header_folder} FILES_MATCHING PATTERN "*.h")
+install(FILES ${PROJECT_BINARY_DIR}/ZRKCVSManager/include/ZRKCVSManagerExport.h DESTINATION ${header_folder})
+target_include_directories(host_headers INTERFACE $<INSTALL_INTERFACE:${header_folder}>)
+if(NOT WIN32)
+  install(FILES ${PROJECT_SOURCE_DIR}/host/windows/include/windows.h DESTINATION ${header_folder}/windows)
+  target_include_directories(host_headers SYSTEM INTERFACE $<INSTALL_INTERFACE:${header_folder}/windows>)
+endif()
+
+set_target_properties(ZRKCVSManager ZRKVersionControlItf PROPERTIES INSTALL_RPATH "$ORIGIN")
+install(TARGETS ZRKCVSManager ZRKVersionControlItf host host_headers EXPORT ZRKCVSManagerTargets
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(EXPORT ZRKCVSManagerTargets NAMESPACE ZRKCVSManager:: DESTINATION ${package_folder})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/ZRKCVSManagerConfigVersion.cmake
+                                 COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_SOURCE_DIR}/cmake/ZRKCVSManagerConfig.cmake
+              ${PROJECT_BINARY_DIR}/ZRKCVSManagerConfigVersion.cmake
+        DESTINATION ${package_folder})

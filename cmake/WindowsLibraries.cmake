@@ -1,6 +1,7 @@
 # Libraries for the Windows build, for which Debian has no binary packages: header-only ones from the
 # native packages, the others built from the sources that packages carry.
 
+include(ForeignSubdirectory)
 enable_language(C)
 
 # Only these folders of /usr/include: the rest of it is for Linux.
@@ -24,15 +25,7 @@ foreach(part TOOLS EXAMPLES TESTS DOCS PKGCONFIG)
 endforeach()
 set(EXPAT_SHARED_LIBS OFF CACHE BOOL "" FORCE)
 set(EXPAT_ENABLE_INSTALL OFF CACHE BOOL "" FORCE)
-# Our warnings and definitions are not for it.
-foreach(property COMPILE_OPTIONS COMPILE_DEFINITIONS)
-  get_property(own_${property} DIRECTORY PROPERTY ${property})
-  set_property(DIRECTORY PROPERTY ${property} "")
-endforeach()
-add_subdirectory(${EXPAT_SOURCE_DIR} expat EXCLUDE_FROM_ALL SYSTEM)
-foreach(property COMPILE_OPTIONS COMPILE_DEFINITIONS)
-  set_property(DIRECTORY PROPERTY ${property} "${own_${property}}")
-endforeach()
+add_foreign_subdirectory(${EXPAT_SOURCE_DIR} expat)
 target_include_directories(expat INTERFACE ${EXPAT_SOURCE_DIR}/lib)
 add_library(EXPAT::EXPAT ALIAS expat)
 

@@ -18,11 +18,6 @@ protected:
         .Read()
         .MakeReadOnly(Document());
   }
-
-  std::string Status() const {
-    const auto attributes = ReadStatusAttributes(Car());
-    return attributes ? attributes->Status : "none";
-  }
 };
 
 }  // namespace
@@ -32,12 +27,12 @@ TEST_F(EditAndUnedit, TheFileIsTakenAndGivenBack) {
   const ZRKICVSManager_var manager(Car());
   ASSERT_TRUE(manager);
   EXPECT_EQ(manager->Unedit(), E_FAIL);
-  EXPECT_EQ(Status(), "ReadOnly");
+  EXPECT_EQ(StatusOf("car"), "ReadOnly");
   EXPECT_EQ(manager->Edit(), 0);
-  EXPECT_EQ(Status(), "Edit");
+  EXPECT_EQ(StatusOf("car"), "Edit");
   EXPECT_TRUE(IsWritable(Document()));
   EXPECT_EQ(manager->Unedit(), 0);
-  EXPECT_EQ(Status(), "ReadOnly");
+  EXPECT_EQ(StatusOf("car"), "ReadOnly");
   EXPECT_FALSE(IsWritable(Document()));
   EXPECT_EQ(manager->Unedit(), E_FAIL);
 }

@@ -69,7 +69,7 @@ TEST_F(EditAttributes, AnInstanceThatIsThereNeedsNoNewOne) {
   WriteStatusAttributes(Car(), {});
   standin::RefuseNewInstances(true);
   EXPECT_EQ(Manager().Edit(), 0);
-  EXPECT_EQ(ReadStatusAttributes(Car())->Status, "Edit");
+  EXPECT_EQ(StatusOf("car"), "Edit");
 }
 
 TEST_F(EditAttributes, AnInstanceIsAddedAlsoWhenTheClientHasSomethingToSay) {

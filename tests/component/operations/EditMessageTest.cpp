@@ -66,6 +66,7 @@ TEST_F(EditMessage, AMarkBehindTheFirstLetterIsNoNewerVersion) {
     Client.When("update").Out(answer);
     EXPECT_EQ(Manager().Edit(), 1) << answer;
     EXPECT_EQ(Runs(), (TextLines{kUpdate, kEdit})) << answer;
+    ASSERT_FALSE(Dialogs().empty());
     EXPECT_EQ(Dialogs().back().Message, answer);
   }
 }
@@ -89,7 +90,7 @@ TEST_F(EditMessage, WithoutAMainWindowEndsWithOneToo) {
 TEST_F(EditMessage, AClientThatEndsInFailureWithoutAWordHasEdited) {
   Client.When("-x edit").Exit(1);
   EXPECT_EQ(Manager().Edit(), 0);
-  EXPECT_EQ(ReadStatusAttributes(Car())->Status, "Edit");
+  EXPECT_EQ(StatusOf("car"), "Edit");
 }
 
 TEST_F(EditMessage, LeavesNoHandleOpen) {

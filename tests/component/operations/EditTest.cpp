@@ -75,7 +75,7 @@ TEST_F(Edit, TheClientMayMakeTheFileWritable) {
   Client.When("-x edit").MakeWritable(Document());
   EXPECT_EQ(Manager().Edit(), 0);
   EXPECT_TRUE(IsWritable(Document()));
-  EXPECT_EQ(ReadStatusAttributes(Car())->Status, "Edit");
+  EXPECT_EQ(StatusOf("car"), "Edit");
 }
 
 TEST_F(Edit, OnlyTheFirstOccurrenceOfTheSandboxIsTakenOffThePath) {

@@ -7,28 +7,32 @@ namespace {
 
 using standin::WindowsCall;
 
-constexpr WindowsCall kCalls[] = {WindowsCall::CreatePipe,    WindowsCall::SetHandleInformation,
-                                  WindowsCall::CreateProcess, WindowsCall::ReadFile,
-                                  WindowsCall::WriteFile,     WindowsCall::CloseHandle};
-// More than any operation here makes of one kind.
-constexpr int kCallsOfAKind = 40;
+struct Fault {
+  WindowsCall Call;
+  // More calls of the kind than any operation here makes.
+  int Calls;
+};
+
+constexpr Fault kFaults[] = {{WindowsCall::CreatePipe, 11},   {WindowsCall::SetHandleInformation, 11},
+                             {WindowsCall::CreateProcess, 6}, {WindowsCall::ReadFile, 14},
+                             {WindowsCall::WriteFile, 2},     {WindowsCall::CloseHandle, 40}};
 
 class OperationFaults : public OperationTest {
 protected:
   ~OperationFaults() override {
-    for (const WindowsCall call : kCalls) standin::FailWindowsCall(call, -1);
+    for (const Fault& fault : kFaults) standin::FailWindowsCall(fault.Call, -1);
   }
 
   template <class Operation>
   void MakeEachCallFail(Operation operation) {
     operation();
     const int handles = CountOpenHandles();
-    for (const WindowsCall call : kCalls) {
-      for (int successes = 0; successes < kCallsOfAKind; ++successes) {
-        standin::FailWindowsCall(call, successes);
+    for (const Fault& fault : kFaults) {
+      for (int successes = 0; successes < fault.Calls; ++successes) {
+        standin::FailWindowsCall(fault.Call, successes);
         operation();
-        standin::FailWindowsCall(call, -1);
-        EXPECT_EQ(CountOpenHandles(), handles) << static_cast<int>(call) << ' ' << successes;
+        standin::FailWindowsCall(fault.Call, -1);
+        EXPECT_EQ(CountOpenHandles(), handles) << static_cast<int>(fault.Call) << ' ' << successes;
       }
     }
   }

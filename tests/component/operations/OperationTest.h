@@ -43,6 +43,12 @@ protected:
     return manager_.emplace(*product_);
   }
 
+  // The "Status" attribute; "no instance" when the product carries none.
+  std::string StatusOf(const std::string& product) const {
+    const auto attributes = ReadStatusAttributes(Products.At(product));
+    return attributes ? attributes->Status : "no instance";
+  }
+
   CATBaseUnknown_var Car() const { return Products.At("car"); }
   std::filesystem::path Document() const { return Folder / kDocument; }
 

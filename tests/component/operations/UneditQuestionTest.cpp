@@ -92,7 +92,7 @@ TEST_F(UneditQuestion, AnyAnswerButYesIsNo) {
 TEST_F(UneditQuestion, DecliningLeavesTheFileTakenAndIsRedrawnForTheFirstCheckAlone) {
   AnswerQuestions({DialogAnswer::No});
   Manager().Unedit();
-  EXPECT_EQ(ReadStatusAttributes(Car())->Status, "Edit");
+  EXPECT_EQ(StatusOf("car"), "Edit");
   EXPECT_EQ(Redraws, TextLines{"car"});
 }
 
@@ -102,7 +102,7 @@ TEST_F(UneditQuestion, TheSecondCheckSeesWhatTheClientDidUponTheAnswer) {
   Client.When("unedit").Out(kQuestion).Read().Repeat(10'000, "restoring\r\n").MakeReadOnly(Document());
   AnswerQuestions({DialogAnswer::Yes});
   EXPECT_EQ(Manager().Unedit(), 0);
-  EXPECT_EQ(ReadStatusAttributes(Car())->Status, "ReadOnly");
+  EXPECT_EQ(StatusOf("car"), "ReadOnly");
   EXPECT_EQ(Redraws, (TextLines{"car", "car"}));
 }
 

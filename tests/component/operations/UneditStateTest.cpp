@@ -25,7 +25,7 @@ TEST_F(UneditState, AReadOnlyFileIsRefused) {
   Client.When("status -v").Out(StatusReport());
   SetReadOnly(Document());
   ExpectRefused();
-  EXPECT_EQ(ReadStatusAttributes(Car())->Status, "ReadOnly");
+  EXPECT_EQ(StatusOf("car"), "ReadOnly");
   EXPECT_EQ(Redraws, TextLines{"car"});
 }
 
@@ -34,7 +34,7 @@ TEST_F(UneditState, ALockedFileIsRefused) {
   Client.When("-n edit").Out("proj/sub/car body.CATProduct\tben\tnow\r\n");
   SetReadOnly(Document());
   ExpectRefused();
-  EXPECT_EQ(ReadStatusAttributes(Car())->Status, "Locked");
+  EXPECT_EQ(StatusOf("car"), "Locked");
 }
 
 TEST_F(UneditState, TheMarkOfBeforeDoesNotOutliveTheCheck) {

@@ -61,7 +61,7 @@ TEST_F(Unedit, WritesNoTimingLines) {
 TEST_F(Unedit, OfAnInstanceLooksAtTheInstanceAndNotAtItsReference) {
   Products.Add("plant", "plant.CATProduct").Place("plant", "car.1", "car");
   EXPECT_EQ(UseManagerOf("plant/car.1").Unedit(), 0);
-  EXPECT_EQ(ReadStatusAttributes(Products.At("plant/car.1"))->Status, "ReadOnly");
+  EXPECT_EQ(StatusOf("plant/car.1"), "ReadOnly");
   EXPECT_EQ(ReadStatusAttributes(Car()), std::nullopt);
   EXPECT_EQ(Redraws, (TextLines{"plant/car.1", "plant/car.1"}));
 }

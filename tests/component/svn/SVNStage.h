@@ -68,7 +68,7 @@ protected:
   RedrawnProducts Redrawn;
   Assembly Products{Folder};
 
-  const CATUnicodeString NoText;
+  const CATUnicodeString NoText{};
   CATUnicodeString SVNExePath = Client.HostPath("svn.exe").c_str();
   CATUnicodeString WorkingFolder = Folder.Host("wc").c_str();
   ZRKIAttClass_var AttributeClass = ZRKAttPackageBaseServices::GetDicoLookUp()->LookUpClass("ZRKCVS");

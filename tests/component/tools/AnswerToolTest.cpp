@@ -19,7 +19,7 @@ protected:
   std::string Give(const char* answer) {
     EXPECT_EQ(tool_.Run("unedit"), kQuestion);
     AnswerTool(tool_.Context(), answer);
-    return tool_.Client.Runs().back().Input;
+    return tool_.ClientInput();
   }
   bool IsDone() const { return std::filesystem::exists(tool_.Folder / "done"); }
 

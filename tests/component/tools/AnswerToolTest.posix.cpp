@@ -25,5 +25,5 @@ TEST(AnswerFaults, AFailedWriteStillLetsTheClientSeeTheEndOfItsInput) {
   standin::FailWindowsCall(standin::WindowsCall::WriteFile, 0);
   zrk::tools::AnswerTool(tool.Context(), "yes");
   standin::FailWindowsCall(standin::WindowsCall::WriteFile, -1);
-  EXPECT_EQ(tool.Client.Runs().back().Input, "");
+  EXPECT_EQ(tool.ClientInput(), "");
 }

@@ -16,7 +16,7 @@ TEST(RevertQuestion, EndsTheReadingWithTheClientStillWaiting) {
   ToolRunner tool;
   tool.Client.Otherwise().Out(kQuestion).ReadAll();
   EXPECT_EQ(tool.Run("unedit"), kQuestion);
-  EXPECT_EQ(tool.Client.Runs().back().Input, "");
+  EXPECT_EQ(tool.ClientInput(), "");
 }
 
 TEST(RevertQuestion, WhatWasReadBeforeStaysInTheOutput) {

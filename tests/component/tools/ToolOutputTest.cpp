@@ -46,12 +46,6 @@ TEST(ToolOutput, IsKeptWhateverStatusTheClientEndsWith) {
   EXPECT_EQ(tool.Run(), "refused");
 }
 
-TEST(ToolOutput, EndsWhenTheClientClosesItsStreams) {
-  ToolRunner tool;
-  tool.Client.Otherwise().Out("all").CloseOutput().Hang();
-  EXPECT_EQ(tool.Run(), "all");
-}
-
 TEST(ToolOutput, MayEndAtTheEdgeOfAChunk) {
   for (const std::size_t size : {kChunk - 1, kChunk, kChunk + 1, 2 * kChunk, 3 * kChunk}) {
     ToolRunner tool;

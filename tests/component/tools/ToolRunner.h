@@ -28,6 +28,12 @@ public:
     return output.ConvertToChar();
   }
 
+  // What the client of the last run has read from its standard input.
+  std::string ClientInput() const {
+    const auto runs = Client.Runs();
+    return runs.empty() ? "not run" : runs.back().Input;
+  }
+
   void ClosePipes() { const zrk::tools::PipeScope ending(Context()); }
 
   ScriptedClient Client;

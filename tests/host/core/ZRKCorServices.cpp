@@ -117,6 +117,7 @@ TEST(GetRuntimeFilePath, MakesARelativeFolderAbsolute) {
   const TemporaryFolder folder;
   MakeProgram(folder / "cvs.exe");
   const std::string relative = fs::relative(folder.Path()).string();
+  if (relative.empty()) GTEST_SKIP() << "no relative path leads to another drive";
   const LookUp found = Find(relative, "cvs.exe");
   ASSERT_TRUE(found.Found);
   EXPECT_TRUE(standin::FilePath(found.Path).is_absolute());
@@ -179,7 +180,7 @@ TEST(HostPath, KeepsEveryByteOfAName) {
   if (!kFilesHaveExecuteBits) GTEST_SKIP() << "file names are wide text here";
   const std::string name = "\\w\\caf\xC3\xA9\xFF.CATPart";
   EXPECT_EQ(standin::HostPath(standin::FilePath(name)), name);
-  EXPECT_EQ(standin::FilePath(name).native(), "/w/caf\xC3\xA9\xFF.CATPart");
+  EXPECT_EQ(standin::FilePath(name).string(), "/w/caf\xC3\xA9\xFF.CATPart");
 }
 
 }  // namespace

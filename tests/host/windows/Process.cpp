@@ -76,7 +76,10 @@ TEST(CreateProcess, TakesProgramAndFolderWhoseNamesAreNoUtf8) {
 }
 
 TEST(CreateProcess, LooksForARelativeProgramFromTheHostsFolder) {
-  const std::filesystem::path program = std::filesystem::relative("/bin/pwd");
+  const TemporaryFolder scratch;
+  std::filesystem::create_symlink("/bin/pwd", scratch / "program");
+  const std::filesystem::path program =
+      scratch.Path().lexically_relative(std::filesystem::current_path()) / "program";
   TestChild child(HostName(program).c_str(), L"pwd", L"\\usr\\lib");
   EXPECT_EQ(child.Finish(), "/usr/lib\n");
 }
@@ -275,6 +278,8 @@ TEST(Children, LeaveNoZombieWhileAnOlderOneLives) {
 TEST(Children, LeaveNoZombieWhenNoDescriptorIsLeft) {
   TestChild(L"\\bin\\true", L"true").Finish();
   ASSERT_TRUE(AllEnded());
+  TestPipe input(true);
+  const TestPipe output(true);
   const int last = open("/dev/null", O_RDONLY | O_CLOEXEC);
   rlimit before;
   ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &before), 0);
@@ -282,13 +287,20 @@ TEST(Children, LeaveNoZombieWhenNoDescriptorIsLeft) {
   none.rlim_cur = static_cast<rlim_t>(last) + 1;
   ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
   const int refused = dup(last);
-  const DWORD child = Launch(L"\\bin\\true", L"true");
-  const bool collected = Eventually([&] { return !ProcessExists(child); });
+  const DWORD child =
+      Launch(L"\\bin\\cat", L"cat", StandardHandles(input.Reading, output.Writing, output.Writing));
   setrlimit(RLIMIT_NOFILE, &before);
   close(last);
   EXPECT_EQ(refused, -1);
-  EXPECT_NE(child, 0u);
-  EXPECT_TRUE(collected);
+  ASSERT_NE(child, 0u);
+
+  // Once another one is gone it is certain that this one was looked at while it lived.
+  TestChild other(L"\\bin\\true", L"true");
+  EXPECT_TRUE(Eventually([&] { return !ProcessExists(other.Id); }));
+  EXPECT_TRUE(ProcessExists(child));
+  input.CloseReading();
+  input.CloseWriting();
+  EXPECT_TRUE(Eventually([&] { return !ProcessExists(child); }));
 }
 
 TEST(Children, OfTheHostItselfAreLeftToIt) {
