@@ -24,7 +24,6 @@ public:
 
   [[noreturn]] void Fail(const std::string& what) const;
 
-  const std::string& Pointer() const { return pointer_; }
   bool IsNull() const { return value_->is_null(); }
 
   // May not hold the character 0, which ends a text of the host.

@@ -2,14 +2,12 @@
 
 #include <windows.h>
 
-#include <system_error>
-
 namespace zrkhost {
 
 LoadedLibrary LoadSharedLibrary(const std::filesystem::path& file) {
   LoadedLibrary library;
   library.Handle = LoadLibraryExW(file.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
-  if (!library.Handle) library.Error = std::system_category().message(static_cast<int>(GetLastError()));
+  if (!library.Handle) library.Error = "Windows error " + std::to_string(GetLastError());
   return library;
 }
 

@@ -10,7 +10,7 @@
 // What a host session is built from, as plain values. Texts are UTF-8.
 namespace zrkhost {
 
-// Parameter and value, in the order in which they were given.
+// Parameter and value.
 using AttributeValues = std::vector<std::pair<std::string, std::string>>;
 
 struct ChildDescription {

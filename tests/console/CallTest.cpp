@@ -1,5 +1,3 @@
-#include <regex>
-
 #include "ConsoleTest.h"
 #include "support/Files.h"
 
@@ -61,7 +59,7 @@ TEST_F(Call, RefusesAnAnswerThatIsNeitherYesNorNo) {
 TEST_F(Call, PrintsItsVersionAndHelp) {
   const auto version = Zrkhost({"--version"});
   EXPECT_EQ(version.Status, 0);
-  EXPECT_TRUE(std::regex_match(version.Output, std::regex("zrkhost \\d+\\.\\d+\\.\\d+\n"))) << version.Output;
+  EXPECT_EQ(version.Output, "zrkhost " PROJECT_VERSION "\n");
   const auto help = Zrkhost({"--help"});
   EXPECT_EQ(help.Status, 0);
   for (const char* told :
