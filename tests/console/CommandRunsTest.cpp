@@ -228,7 +228,8 @@ TEST_F(CommandRuns, StorageTellsThePathOfAnInstancesReference) {
 
 TEST_F(CommandRuns, PredicatesAnswerWithoutFailing) {
   const auto session = Session(R"({"root": "car", "attributeClass": {"modifiable": false},
-      "products": {"car": {"document": "x", "children": [{"name": "p", "reference": "plain"}]}, "plain": {"linkable": false}}})");
+      "products": {"car": {"document": "x", "children": [{"name": "p", "reference": "plain"}]},
+                   "plain": {"linkable": false}}})");
   const auto report = Report({session, "-c", "cvsable", "-c", "cvsable car/p", "-c", "modifiable"});
   EXPECT_EQ(CommandOf(report, 0)["result"], 1);
   EXPECT_EQ(CommandOf(report, 1)["result"], 0);

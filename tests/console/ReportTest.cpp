@@ -66,7 +66,8 @@ TEST_F(Report, ListsTheTreeDepthFirst) {
 
 TEST_F(Report, ShowsAReferencesOwnAttributesOnlyAtTheRoot) {
   const auto session = Session(R"({"root": "car", "products": {
-      "car": {"attributes": {"Status": "Locked", "Comment": "anna"}, "children": [{"name": "a", "reference": "axle"}]},
+      "car": {"attributes": {"Status": "Locked", "Comment": "anna"},
+              "children": [{"name": "a", "reference": "axle"}]},
       "axle": {"attributes": {"Status": "Edit"}}}})");
   const auto report = ConsoleTest::Report({session});
   EXPECT_EQ(report["products"][0]["attributes"]["Status"], "Locked");
@@ -94,7 +95,8 @@ TEST_F(Report, ShowsEveryParameterOfTheClass) {
 
 TEST_F(Report, ShowsNoAttributesOfAProductThatCannotCarryThem) {
   const auto session = Session(R"({"root": "car", "products": {
-      "car": {"extendable": false, "attributes": {"Status": "Edit"}, "children": [{"name": "a", "reference": "axle", "attributes": {"Status": "Edit"}}]},
+      "car": {"extendable": false, "attributes": {"Status": "Edit"},
+              "children": [{"name": "a", "reference": "axle", "attributes": {"Status": "Edit"}}]},
       "axle": {"extendable": false}}})");
   const auto report = ConsoleTest::Report({session});
   EXPECT_EQ(report["products"][0]["attributes"], nullptr);

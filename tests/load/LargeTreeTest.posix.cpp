@@ -27,7 +27,7 @@ protected:
     Products.Add("car", PartFile(0));
     for (int number = 0; number < kProducts; ++number) {
       if (number > 0) {
-        const std::string name = "p" + std::to_string(number);
+        const std::string name = std::to_string(number);
         Products.Add(name, PartFile(number)).Place("car", name, name);
       }
       SetReadOnly(Folder / PartFile(number));
