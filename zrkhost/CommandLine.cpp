@@ -18,10 +18,19 @@ std::string Footer() {
          "double quotes; # begins a comment):\n" +
          CommandsHelp() +
          "\n"
+         "FILE is a full path and is not made absolute. A relative one reaches the client as it is, which "
+         "runs\n"
+         "in the folder of the product examined last: another file of that name may be removed.\n"
+         "In Subversion refresh brings the whole tree up to date, whatever PATH says.\n"
+         "\n"
          "Exit status: 0 when every command gave result 0 or has none; 1 when a command gave another "
          "result;\n"
          "2 for a bad call, a wrong session, an unknown command or product, or a component library that\n"
          "cannot be loaded. With 2 nothing was run.\n";
+}
+
+std::string NotEmpty(const std::string& value) {
+  return value.empty() ? "must not be empty" : "";
 }
 
 }  // namespace
@@ -38,33 +47,39 @@ std::optional<Options> ParseCommandLine(int argc, char** argv, int& status) {
   app.set_version_flag("--version", "zrkhost " ZRKHOST_VERSION);
 
   auto* session =
-      app.add_option("SESSION", options.SessionFile, "Session file (JSON) with the product structure");
+      app.add_option("SESSION", options.SessionFile, "Session file (JSON) with the product structure")
+          ->check(NotEmpty);
   auto* folder = app.add_option("--folder", options.Folder,
                                 "Make the product structure from the files of a working copy");
-  folder->type_name("DIR")->excludes(session);
+  folder->type_name("DIR")->check(NotEmpty)->excludes(session);
   app.add_option("--root", options.Root,
                  "File below DIR whose product is the root; default: the first by name")
       ->type_name("FILE")
+      ->check(NotEmpty)
       ->needs(folder);
   app.add_option("-c", options.Commands, "Run this console command; may be given several times")
       ->type_name("COMMAND")
       ->allow_extra_args(false);
   app.add_option("--commands", options.CommandFile,
                  "Run the commands of FILE, one a line, after those of -c; - is standard input")
-      ->type_name("FILE");
+      ->type_name("FILE")
+      ->check(NotEmpty);
   app.add_option("--answer", options.Answer,
                  "Answer to every question dialog; default: ask on a terminal, else no")
       ->type_name("yes|no")
       ->check(CLI::IsMember({"yes", "no"}));
   app.add_flag("--verbose", options.Verbose, "Print client launches and debugger messages on standard error");
   app.add_option("--report", options.Report, "Write a JSON report when all commands have run")
-      ->type_name("FILE");
+      ->type_name("FILE")
+      ->check(NotEmpty);
   app.add_option("--plugin", options.Plugin,
                  "Component library to load; default: the one built or installed beside zrkhost")
-      ->type_name("FILE");
+      ->type_name("FILE")
+      ->check(NotEmpty);
   app.add_option("--clients", options.Clients,
                  "Folder to append to PATH; default: that of the client adapters; none: PATH stays as it is")
-      ->type_name("DIR|none");
+      ->type_name("DIR|none")
+      ->check(NotEmpty);
 
   try {
     app.parse(argc, argv);

@@ -1,11 +1,9 @@
 #include "CommandSource.h"
 
-#include <iostream>
-#include <iterator>
-
 #include "CallError.h"
 #include "CommandText.h"
 #include "Encoding.h"
+#include "StandardInput.h"
 #include "TextFile.h"
 
 namespace zrkhost {
@@ -25,10 +23,6 @@ void AddLines(std::vector<SourcedCommand>& commands, const std::string& name, co
   for (const auto& line : SplitLines(text)) {
     AddCommand(commands, name + ": line " + std::to_string(++number), line);
   }
-}
-
-std::string ReadStandardInput() {
-  return {std::istreambuf_iterator<char>(std::cin), std::istreambuf_iterator<char>()};
 }
 
 }  // namespace

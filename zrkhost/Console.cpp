@@ -7,6 +7,7 @@
 #include "CallError.h"
 #include "DisplayText.h"
 #include "Encoding.h"
+#include "StandardInput.h"
 #include "Terminal.h"
 #include "TreePrinter.h"
 
@@ -26,7 +27,7 @@ void Console::RunPrompt() {
   std::string line;
   for (;;) {
     std::cerr << "zrkhost> " << std::flush;
-    if (!std::getline(std::cin, line)) {
+    if (!ReadLine(line)) {
       std::cerr << std::endl;
       return;
     }

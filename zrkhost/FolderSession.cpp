@@ -25,8 +25,11 @@ std::vector<std::string> FilesBelow(const fs::path& folder) {
       entry.disable_recursion_pending();
       continue;
     }
-    if (entry->is_regular_file(broken))
-      files.push_back(Utf8FromPath(entry->path().lexically_relative(folder)));
+    if (!entry->is_regular_file(broken)) continue;
+    const auto file = Utf8FromPath(entry->path());
+    if (file.find('\\') != std::string::npos)
+      throw CallError(file + ": the host would take the \"\\\" in this name for a separator of folders");
+    files.push_back(Utf8FromPath(entry->path().lexically_relative(folder)));
   }
   std::sort(files.begin(), files.end());
   return files;

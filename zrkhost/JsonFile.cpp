@@ -42,8 +42,11 @@ public:
     return true;
   }
 
-  // The parser proper tells about it.
-  bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception&) override {
+  // The parser proper tells about it, but for a number that is too large, of which it tells no place.
+  bool parse_error(std::size_t, const std::string& token, const nlohmann::detail::exception& error) override {
+    if (dynamic_cast<const Json::out_of_range*>(&error)) {
+      FailAt(fileName_, Pointer(), "the number " + token + " is too large");
+    }
     return false;
   }
 

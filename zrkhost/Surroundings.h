@@ -10,8 +10,9 @@ std::filesystem::path DefaultPlugin();
 // The folder of the client adapters that go with this program; empty when there is none.
 std::filesystem::path DefaultClients();
 
-// Puts a folder behind those of the PATH environment variable.
-void AppendToPath(const std::filesystem::path& folder);
+// Puts a folder behind those of the PATH environment variable. False, and nothing is done, when its name
+// holds the character that separates folders there.
+bool AppendToPath(const std::filesystem::path& folder);
 
 // Absolute path of the running program.
 std::filesystem::path ProgramFile();

@@ -13,10 +13,12 @@ const char* PluginFileName() {
   return "libZRKCVSManager.so";
 }
 
-void AppendToPath(const std::filesystem::path& folder) {
+bool AppendToPath(const std::filesystem::path& folder) {
+  if (folder.native().find(':') != std::string::npos) return false;
   const char* path = std::getenv("PATH");
   const std::string before = path && *path ? path + std::string(":") : std::string();
   setenv("PATH", (before + folder.string()).c_str(), 1);
+  return true;
 }
 
 }  // namespace zrkhost

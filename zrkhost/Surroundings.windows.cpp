@@ -20,10 +20,12 @@ const char* PluginFileName() {
   return "ZRKCVSManager.dll";
 }
 
-void AppendToPath(const std::filesystem::path& folder) {
+bool AppendToPath(const std::filesystem::path& folder) {
+  if (folder.native().find(L';') != std::wstring::npos) return false;
   const wchar_t* path = _wgetenv(L"PATH");
   const std::wstring before = path && *path ? path + std::wstring(L";") : std::wstring();
   _wputenv_s(L"PATH", (before + folder.wstring()).c_str());
+  return true;
 }
 
 }  // namespace zrkhost

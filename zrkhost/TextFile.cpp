@@ -1,7 +1,7 @@
 #include "TextFile.h"
 
 #include <fstream>
-#include <sstream>
+#include <iterator>
 
 #include "CallError.h"
 #include "Encoding.h"
@@ -14,11 +14,15 @@ std::string ReadTextFile(const std::filesystem::path& file) {
   if (!std::filesystem::exists(status)) throw CallError(Utf8FromPath(file) + ": there is no such file");
   if (std::filesystem::is_directory(status))
     throw CallError(Utf8FromPath(file) + ": is a folder, not a file");
-  std::ifstream stream(file, std::ios::binary);
-  std::ostringstream text;
-  text << stream.rdbuf();
-  if (!stream) throw CallError(Utf8FromPath(file) + ": cannot be read");
-  return text.str();
+  std::ifstream stream;
+  // Read past the stream, which would take a failure in the middle for the end.
+  stream.exceptions(std::ios::failbit);
+  try {
+    stream.open(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+  } catch (const std::ios::failure&) {
+    throw CallError(Utf8FromPath(file) + ": cannot be read");
+  }
 }
 
 }  // namespace zrkhost

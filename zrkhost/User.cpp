@@ -5,6 +5,7 @@
 
 #include "DisplayText.h"
 #include "Encoding.h"
+#include "StandardInput.h"
 #include "Terminal.h"
 
 namespace zrkhost {
@@ -39,7 +40,7 @@ bool User::AnswerQuestion() {
   std::string line;
   for (;;) {
     std::cerr << " [y/n] " << std::flush;
-    if (!std::getline(std::cin, line)) {
+    if (!ReadLine(line)) {
       std::cerr << std::endl;
       return false;
     }

@@ -41,10 +41,25 @@ void PrepareClients(const Options& options) {
     if (!std::filesystem::is_directory(folder, error))
       throw CallError(Utf8FromPath(folder) + ": is not a folder");
   }
-  if (!folder.empty()) AppendToPath(folder);
+  if (!folder.empty() && !AppendToPath(folder))
+    throw CallError(Utf8FromPath(folder) +
+                    ": cannot be put into PATH: its name holds the separator of folders");
+}
+
+// Opening the report empties its file.
+void CheckReport(const Options& options) {
+  if (!options.Report) return;
+  const auto report = PathFromNative(*options.Report);
+  for (const auto& input : {options.SessionFile, options.CommandFile}) {
+    std::error_code error;
+    if (input && std::filesystem::is_regular_file(report, error) &&
+        std::filesystem::equivalent(report, PathFromNative(*input), error))
+      throw CallError(Utf8FromPath(report) + ": the report would overwrite what the call reads");
+  }
 }
 
 int Run(const Options& options) {
+  CheckReport(options);
   const bool prompt = options.Commands.empty() && !options.CommandFile && IsTerminal(0);
   const auto description = Describe(options);
   std::vector<SourcedCommand> commands;

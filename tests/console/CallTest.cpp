@@ -52,6 +52,16 @@ TEST_F(Call, RefusesUnknownOptionsAndMissingValues) {
   ExpectRefused(Zrkhost({CarSession(), "--report"}), "--report");
 }
 
+TEST_F(Call, RefusesEmptyValuesByTheNameOfTheOption) {
+  ExpectRefused(Zrkhost({"", "-c", "tree"}), "SESSION: must not be empty");
+  for (const char* option : {"--commands", "--report", "--plugin", "--clients"}) {
+    ExpectRefused(Zrkhost({CarSession(), "-c", "tree", option, ""}),
+                  std::string(option) + ": must not be empty");
+  }
+  ExpectRefused(Zrkhost({"--folder", "", "-c", "tree"}), "--folder: must not be empty");
+  ExpectRefused(Zrkhost({"--folder", Path(""), "--root", "", "-c", "tree"}), "--root: must not be empty");
+}
+
 TEST_F(Call, RefusesAnAnswerThatIsNeitherYesNorNo) {
   ExpectRefused(Zrkhost({CarSession(), "--answer", "maybe"}), "maybe");
 }
@@ -64,7 +74,7 @@ TEST_F(Call, PrintsItsVersionAndHelp) {
   EXPECT_EQ(help.Status, 0);
   for (const char* told :
        {"SESSION", "--folder", "--root", "-c ", "--commands", "--answer", "--verbose", "--report", "--plugin",
-        "--clients", "refresh", "status", "unedit", "Exit status"}) {
+        "--clients", "refresh", "status", "unedit", "FILE is a full path", "Exit status"}) {
     EXPECT_THAT(help.Output, HasSubstr(told));
   }
 }
@@ -111,6 +121,23 @@ TEST_F(Call, LeavesAnEarlierReportAloneWhenNothingIsRun) {
   WriteFile(folder_ / "report.json", "earlier");
   Zrkhost({CarSession(), "-c", "trees", "--report", Path("report.json")});
   EXPECT_EQ(ReadFile(folder_ / "report.json"), "earlier");
+}
+
+TEST_F(Call, RefusesAReportInPlaceOfWhatItReads) {
+  const auto session = CarSession();
+  const auto before = ReadFile(session);
+  ExpectRefused(Zrkhost({session, "-c", "tree", "--report", Path("./session.json")}),
+                "session.json: the report would overwrite");
+  EXPECT_EQ(ReadFile(session), before);
+  WriteFile(folder_ / "commands.txt", "tree\n");
+  ExpectRefused(Zrkhost({session, "--commands", Path("commands.txt"), "--report", Path("commands.txt")}),
+                "commands.txt: the report would overwrite");
+  EXPECT_EQ(ReadFile(folder_ / "commands.txt"), "tree\n");
+}
+
+TEST_F(Call, OverwritesAnEarlierReport) {
+  WriteFile(folder_ / "report.json", "earlier");
+  EXPECT_EQ(Report({CarSession(), "-c", "tree"})["commands"].size(), 1u);
 }
 
 TEST_F(Call, EscapesControlCharactersInWhatItTells) {

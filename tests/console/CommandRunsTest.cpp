@@ -219,6 +219,17 @@ TEST_F(CommandRuns, RemoveDoesNotMakeAFileAbsolute) {
   EXPECT_TRUE(client_.Runs().empty());
 }
 
+TEST_F(CommandRuns, DeleteDoesNotMakeAFileAbsolute) {
+  WriteFile(folder_ / "wc/.svn/entries", "");
+  const auto session = Session(R"({"root": "car", "products": {"car": {"document": "wc/car.CATProduct"}}})");
+  const auto result = Zrkhost({session, "-c", "delete sub/axle.CATPart"});
+  EXPECT_EQ(result.Status, 0) << result.Error;
+  const auto runs = client_.Runs();
+  ASSERT_EQ(runs.size(), 1u);
+  EXPECT_EQ(runs[0].Folder, Host("wc"));
+  EXPECT_THAT(runs[0].Arguments, ElementsAre("delete", "-mzq", "--force", "sub\\axle.CATPart"));
+}
+
 TEST_F(CommandRuns, StorageTellsThePathOfAnInstancesReference) {
   const auto report = Report({Assembly(), "-c", "storage car/axle.1", "-c", "storage car/gone"});
   EXPECT_EQ(CommandOf(report, 0)["text"], Host("proj/axle.CATPart"));

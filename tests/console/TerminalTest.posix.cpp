@@ -173,6 +173,19 @@ TEST_F(TerminalQuestion, IsAnsweredNoByTheEndOfTheInput) {
   EXPECT_EQ(Type({session_, "-c", "unedit"}, "\x04").Status, 1);
 }
 
+TEST_F(TerminalQuestion, IsAskedAfterCommandsThatWereTypedToTheirEnd) {
+  const auto result = Type({session_, "--commands", "-"}, "unedit\n\x04y\n");
+  EXPECT_EQ(result.Status, 0);
+  EXPECT_THAT(result.Screen, HasSubstr("unedit: result 0\r\n"));
+}
+
+TEST_F(TerminalQuestion, IsAllThatEndsWithTheEndOfTheInput) {
+  const auto result = Type({session_}, "unedit\n\x04storage\nquit\n");
+  EXPECT_EQ(result.Status, 1);
+  EXPECT_THAT(result.Screen, HasSubstr("unedit: result 1\r\n"));
+  EXPECT_THAT(result.Screen, HasSubstr(Host("proj/car.CATProduct")));
+}
+
 TEST_F(TerminalQuestion, IsNotAskedWhenTheCallHoldsTheAnswer) {
   EXPECT_EQ(Type({session_, "-c", "unedit", "--answer", "yes"}, "").Status, 0);
 }
