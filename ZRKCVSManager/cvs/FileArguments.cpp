@@ -31,9 +31,9 @@ product::ProductDocument ReachOrClear(const FileArgumentContext& context, const 
 }
 
 // What the client is to be told of a document; nothing when it is not the client's.
-std::optional<CATUnicodeString> ArgumentPath(const FileArgumentContext& context,
+std::optional<CATUnicodeString> ArgumentPath(const FileArgumentContext& context, CVSFolders& folders,
                                              const CATUnicodeString& documentPath) {
-  if (documentPath.GetLengthInByte() == 0 || !IsInCVSWorkingCopy(documentPath)) return std::nullopt;
+  if (documentPath.GetLengthInByte() == 0 || !folders.Hold(documentPath)) return std::nullopt;
   return RelativePath(documentPath, context.SandboxRoot);
 }
 
@@ -57,15 +57,17 @@ CATUnicodeString Quoted(const CATUnicodeString& path) {
 int AppendCVSFileArgument(const FileArgumentContext& context, const CATBaseUnknown_var& product,
                           CATUnicodeString& tail) {
   const product::ProductDocument document = ReachOrClear(context, product);
-  if (const auto path = ArgumentPath(context, document.Path)) AppendArgument(*path, tail);
+  CVSFolders folders;
+  if (const auto path = ArgumentPath(context, folders, document.Path)) AppendArgument(*path, tail);
   return 0;
 }
 
 int CollectCVSFileArguments(const FileArgumentContext& context, const CATBaseUnknown_var& product,
                             CATListValCATUnicodeString& chunks, std::int32_t* chunk) {
+  CVSFolders folders;
   product::WalkProductTree(product, [&](const CATBaseUnknown_var& object) {
     const product::ProductDocument document = ReachOrClear(context, object);
-    if (const auto path = ArgumentPath(context, document.Path)) {
+    if (const auto path = ArgumentPath(context, folders, document.Path)) {
       if (chunks[*chunk].GetLengthInChar() + path->GetLengthInChar() + kArgumentOverhead >= kChunkLimit) {
         ++*chunk;
         chunks.Append({});

@@ -23,13 +23,14 @@ struct FileArgumentContext {
 };
 
 // Appends the quoted relative path of the product's document, with a blank before it, to `tail`, when the
-// document lies in a CVS working copy. Always 0.
+// document lies in a CVS working copy. The product is put into work mode 1 for this; what is null or no
+// product is left alone. Always 0.
 int AppendCVSFileArgument(const FileArgumentContext& context, const CATBaseUnknown_var& product,
                           CATUnicodeString& tail);
 
 // Does so for the product and all below it, into chunks of less than 32,000 characters (a longer path
-// stands alone): a chunk that the next path would fill up is followed by a new one. `chunk` is the
-// position of the chunk being filled and moves with it; `chunks` must hold that one. Below a product
+// stands alone): for a path that would fill up the chunk a new one is appended. `chunk` is the position,
+// from 1, of the chunk being filled, which must be the last of `chunks`, and moves with it. Below a product
 // without a document the walk does not go. Always 0.
 int CollectCVSFileArguments(const FileArgumentContext& context, const CATBaseUnknown_var& product,
                             CATListValCATUnicodeString& chunks, std::int32_t* chunk);

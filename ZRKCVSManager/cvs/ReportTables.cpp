@@ -1,13 +1,19 @@
 #include "cvs/ReportTables.h"
 
+#include <iterator>
+
 #include "cvs/StatusReport.h"
-#include "cvs/Text.h"
+#include "text/Text.h"
 
 namespace zrk::cvs {
+
+using text::Piece;
+using text::Replaced;
+using text::View;
 namespace {
 
-// A report of many empty lines would be filed once for each of them, at the square of its length. What
-// such lines may take in all is far more than any client's message and bounds that.
+// A report of many empty lines would be filed once for each of them, at the square of its length. Beyond
+// the length of the report, this bounds what such lines may take in all.
 constexpr std::size_t kWrappedLinesLimit = std::size_t{16} << 20;
 
 void FileEditLine(std::string_view line, const CATUnicodeString& sandboxRoot, ReportTable& table) {
@@ -23,13 +29,15 @@ void FileStatusReport(std::string_view report, const CATUnicodeString& sandboxRo
                       const CATUnicodeString& cvsRoot, ReportTable& table) {
   constexpr std::string_view kBlockStart = "File:";
   constexpr std::string_view kSeparator = "=====";
+  // Clients report folder by folder in the order of names: the next file's place is mostly behind this one's.
+  auto place = table.end();
   std::size_t start = report.find(kBlockStart);
   while (start != std::string_view::npos) {
     const std::size_t end = report.find(kSeparator, start + kBlockStart.size());
     const std::string_view block = report.substr(start, end - start);
     std::string key = sandboxRoot.ConvertToChar();
     key += GetRepositoryPath(block, View(cvsRoot));
-    table.try_emplace(std::move(key), block);
+    place = std::next(table.try_emplace(place, std::move(key), block));
     start = end == std::string_view::npos ? end : report.find(kBlockStart, end);
   }
 }
@@ -43,7 +51,7 @@ void FileEditReport(std::string_view report, const CATUnicodeString& sandboxRoot
     start = end + 1;
     if (length < 0) {
       wrapped += line.size();
-      if (wrapped > kWrappedLinesLimit) continue;
+      if (wrapped > report.size() + kWrappedLinesLimit) continue;
     }
     FileEditLine(line, sandboxRoot, table);
   }

@@ -1,8 +1,11 @@
 #include "cvs/StatusReport.h"
-
-#include "cvs/Text.h"
+#include "text/Text.h"
 
 namespace zrk::cvs {
+
+using text::NextLine;
+using text::Piece;
+using text::Replaced;
 namespace {
 
 constexpr std::string_view kFile = "File:";

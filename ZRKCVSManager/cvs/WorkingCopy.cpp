@@ -3,14 +3,17 @@
 #include <algorithm>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "CATIDescendants.h"
-#include "cvs/Text.h"
 #include "files/TextFile.h"
 #include "product/ProductDocument.h"
+#include "text/Text.h"
 
 namespace zrk::cvs {
+
+using text::Replaced;
 namespace {
 
 std::string FolderOf(const CATUnicodeString& documentPath) {
@@ -18,7 +21,8 @@ std::string FolderOf(const CATUnicodeString& documentPath) {
   return path.substr(0, path.rfind('\\'));
 }
 
-std::string WithoutLineFeeds(std::string text) {
+std::string WithoutLineFeeds(std::string_view lines) {
+  std::string text(lines);
   std::erase(text, '\n');
   return text;
 }
@@ -29,15 +33,15 @@ bool ExamineDocument(const CATUnicodeString& documentPath, WorkingCopy& workingC
   workingCopy.IsSVN = files::CanOpen(folder + "\\.svn\\entries");
   if (workingCopy.IsSVN) workingCopy.SVNWorkingFolder = folder.c_str();
 
-  const std::optional<std::string> repository = files::ReadText(folder + "\\CVS\\Repository");
+  const std::optional<files::Text> repository = files::ReadText(folder + "\\CVS\\Repository");
   if (!repository) return false;
-  const std::string repositoryPath = Replaced(WithoutLineFeeds(*repository), '/', '\\');
+  const std::string repositoryPath = Replaced(WithoutLineFeeds(repository->View()), '/', '\\');
   const std::string path = documentPath.ConvertToChar();
   const std::size_t below = path.find(repositoryPath);
   workingCopy.SandboxRoot = below == std::string::npos ? "" : path.substr(0, below).c_str();
 
-  if (const std::optional<std::string> root = files::ReadText(folder + "\\CVS\\Root")) {
-    workingCopy.CVSRoot = WithoutLineFeeds(*root).c_str();
+  if (const std::optional<files::Text> root = files::ReadText(folder + "\\CVS\\Root")) {
+    workingCopy.CVSRoot = WithoutLineFeeds(root->View()).c_str();
   }
   return true;
 }
@@ -62,8 +66,13 @@ void DiscoverWorkingCopy(const CATIProduct_var& product, WorkingCopy& workingCop
   }
 }
 
-bool IsInCVSWorkingCopy(const CATUnicodeString& documentPath) {
-  return files::CanOpen(FolderOf(documentPath) + "\\CVS\\Repository");
+bool CVSFolders::Hold(const CATUnicodeString& documentPath) {
+  std::string folder = FolderOf(documentPath);
+  if (folder != folder_) {
+    isCVS_ = files::CanOpen(folder + "\\CVS\\Repository");
+    folder_ = std::move(folder);
+  }
+  return isCVS_;
 }
 
 }  // namespace zrk::cvs

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "CATIProduct.h"
 #include "CATUnicodeString.h"
 
@@ -25,7 +28,16 @@ struct WorkingCopy {
 // document ends its branch.
 void DiscoverWorkingCopy(const CATIProduct_var& product, WorkingCopy& workingCopy);
 
-// Whether a document of that path lies in a CVS working copy: `CVS\Repository` is beside it.
-bool IsInCVSWorkingCopy(const CATUnicodeString& documentPath);
+// Tells which documents lie in a CVS working copy. The answer for the last folder is remembered, as most
+// products of an assembly have their documents beside each other: good for one walk over a tree.
+class CVSFolders {
+public:
+  // Whether `CVS\Repository` is beside a document of that path.
+  bool Hold(const CATUnicodeString& documentPath);
+
+private:
+  std::optional<std::string> folder_;
+  bool isCVS_ = false;
+};
 
 }  // namespace zrk::cvs

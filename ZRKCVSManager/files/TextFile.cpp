@@ -3,7 +3,9 @@
 #include <sys/stat.h>
 #include <windows.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <memory>
 
 namespace zrk::files {
@@ -25,18 +27,23 @@ bool CanOpen(const std::string& path) {
   return OpenText(path) != nullptr;
 }
 
-std::optional<std::string> ReadText(const std::string& path) {
+std::optional<Text> ReadText(const std::string& path) {
   const auto file = OpenText(path);
   if (!file) return std::nullopt;
-  std::string text;
-  std::size_t used = 0;
-  for (;;) {
-    if (used == text.size()) text.resize(used == 0 ? 64 * 1024 : used * 2);
-    const std::size_t count = fread(text.data() + used, 1, text.size() - used, file.get());
-    if (count == 0) break;
-    used += count;
+  struct _stat64i32 status {};
+  _stat64i32(path.c_str(), &status);
+  // One more than the file has, so that its end is met without growing. It may have grown meanwhile.
+  std::size_t room = static_cast<std::size_t>(std::max<long>(status.st_size, 0)) + 1;
+  Text text{std::make_unique_for_overwrite<char[]>(room)};
+  while (const std::size_t count =
+             fread(text.Characters.get() + text.Size, 1, room - text.Size, file.get())) {
+    text.Size += count;
+    if (text.Size < room) continue;
+    room *= 2;
+    auto larger = std::make_unique_for_overwrite<char[]>(room);
+    std::memcpy(larger.get(), text.Characters.get(), text.Size);
+    text.Characters = std::move(larger);
   }
-  text.resize(used);
   return text;
 }
 

@@ -9,10 +9,11 @@
 class CATBaseUnknown;
 
 // The version-control state of one file, as the clients' reports and the working copy's own files tell
-// it. A new record knows nothing: every text is empty, every flag 0.
+// it. A new record knows nothing: every text is empty, every flag 0. Copying may throw std::bad_alloc.
 //
 // The fields from File to ExistingTags come from the report of `cvs status -v`, each from the line with
-// its label; those that Subversion fills come from `.svn\entries` and from `svn status -v -u`.
+// its label; those that Subversion fills come from `.svn\entries` and from `svn status -v -u`. What
+// ZRKICVSManager::GetFileStatus gives out are the CVS fields.
 class ZRKCVSMANAGER_EXPORT ZRKCVSStatus {
 public:
   ZRKCVSStatus();
@@ -39,7 +40,8 @@ public:
   CATUnicodeString ExistingTags;
   // Free comment; it ends the "Comment" attribute. Empty unless a back end sets it.
   CATUnicodeString AuxText;
-  // Owner of the Subversion lock: from the entries file when the lock is held here, else from the report.
+  // Owner of the Subversion lock: from the XML report, or from the entries file when that holds the lock
+  // and no XML report was asked for or it names no owner.
   CATUnicodeString LockOwner;
 
   // The Subversion entries file lists the file.
@@ -58,7 +60,7 @@ public:
   std::string Text2;
   std::string Text3;
 
-  // WorkingRevision of Subversion as a number, 0 when it is not one.
+  // WorkingRevision of Subversion as far as it is a decimal number: 12 of "12M", 0 of "M".
   std::int32_t RevisionNumber;
 };
 

@@ -2,14 +2,14 @@
 
 #include "attributes/StatusAttributes.h"
 #include "cvs/FileArguments.h"
-#include "cvs/Text.h"
 #include "manager/ZRKECVSManager.h"
 #include "svn/StatusReaders.h"
+#include "text/Text.h"
 
 using namespace zrk;
 
 void ZRKECVSManager::RefreshStatus(const CATISpecObject_var& root) {
-  const tools::PipeScope pipes(Tools());
+  const tools::RunScope run(Tools());
   if (IsSVN) {
     RefreshSVNRoute();
   } else {
@@ -75,13 +75,13 @@ ZRKECVSManager::PassTimes ZRKECVSManager::RunStatusPasses(const CATListValCATUni
   const CATUnicodeString statusReport = RunOverFiles(" status -v ", fileArguments);
   times.Status = statusClock.Elapsed();
   CommTime += times.Status;
-  cvs::FileStatusReport(cvs::View(statusReport), SandboxRoot, CVSRoot, StatusBlockTable);
+  cvs::FileStatusReport(text::View(statusReport), SandboxRoot, CVSRoot, StatusBlockTable);
 
   const tools::RunClock editClock;
   const CATUnicodeString editReport = RunOverFiles(" -n edit ", fileArguments);
   times.Edit = editClock.Elapsed();
   CommTime = times.Edit;
   EditTable.clear();
-  cvs::FileEditReport(cvs::View(editReport), SandboxRoot, EditTable);
+  cvs::FileEditReport(text::View(editReport), SandboxRoot, EditTable);
   return times;
 }

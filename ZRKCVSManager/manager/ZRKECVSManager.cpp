@@ -1,15 +1,16 @@
 #include "manager/ZRKECVSManager.h"
 
 #include <iostream>
+#include <string>
 
 #include "CATILinkableObject.h"
 #include "ZRKAttPackageBaseServices.h"
 #include "cvs/FileArguments.h"
 #include "cvs/StatusReport.h"
-#include "cvs/Text.h"
 #include "cvs/WorkingCopy.h"
 #include "product/ProductDocument.h"
 #include "svn/LockCommands.h"
+#include "text/Text.h"
 #include "tools/ToolLocation.h"
 
 using namespace zrk;
@@ -26,7 +27,8 @@ ZRKECVSManager::ZRKECVSManager(CATBaseUnknown& product) : CATBaseUnknown(product
 ZRKECVSManager::~ZRKECVSManager() = default;
 
 HRESULT ZRKECVSManager::PrintCommTime() {
-  std::cout << " Total CVS Comm Time: " << CommTime << std::endl;
+  // As text, whatever format the host's code left the stream in.
+  std::cout << " Total CVS Comm Time: " + std::to_string(CommTime) << std::endl;
   CommTime = 0;
   return S_OK;
 }
@@ -35,12 +37,12 @@ HRESULT ZRKECVSManager::GetFileStatus(const CATIProduct_var& product, ZRKCVSStat
   if (!product || FAILED(product->TestReference())) return S_OK;
   const product::ProductDocument document = product::ReachDocument(product);
   if (document.Path.GetLengthInByte() == 0) return S_OK;
-  const tools::PipeScope pipes(Tools());
+  const tools::RunScope run(Tools());
   return QueryCVSFileStatus(document.Path, record);
 }
 
 HRESULT ZRKECVSManager::SVNDelete(const CATUnicodeString& file) {
-  const tools::PipeScope pipes(Tools());
+  const tools::RunScope run(Tools());
   return svn::SVNDelete(SVN(), file);
 }
 
@@ -69,7 +71,7 @@ HRESULT ZRKECVSManager::QueryCVSFileStatus(const CATUnicodeString& documentPath,
   const tools::RunClock clock;
   RunTool(arguments, SandboxRoot, report);
   CommTime += clock.Elapsed();
-  cvs::ParseCVSStatusBlock(cvs::View(report), record);
+  cvs::ParseCVSStatusBlock(text::View(report), record);
   return S_OK;
 }
 

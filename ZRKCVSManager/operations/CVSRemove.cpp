@@ -9,7 +9,7 @@ using namespace zrk;
 HRESULT ZRKECVSManager::CVSRemove(const CATUnicodeString& file) {
   if (IsSVN) return E_FAIL;
   if (!CheckCVSToolPath()) return E_FAIL;
-  const tools::PipeScope pipes(Tools());
+  const tools::RunScope run(Tools());
   CATUnicodeString folder;
   CATUnicodeString name;
   ZRKCorParserServices::SplitFilePath(file, folder, name);

@@ -7,11 +7,11 @@
 
 #include "CATMsgCatalog.h"
 #include "cvs/FileArguments.h"
-#include "cvs/Text.h"
 #include "manager/ZRKECVSManager.h"
 #include "product/ProductDocument.h"
 #include "product/StatusInstance.h"
 #include "svn/LockCommands.h"
+#include "text/Text.h"
 #include "tools/BlockingDialog.h"
 
 using namespace zrk;
@@ -37,7 +37,7 @@ void ShowNewerVersion(CATUnicodeString answer) {
 }  // namespace
 
 HRESULT ZRKECVSManager::Edit() {
-  const tools::PipeScope pipes(Tools());
+  const tools::RunScope run(Tools());
   const CATBaseUnknown_var own(this);
   if (IsSVN) return svn::SVNLock(SVN(), own);
   if (!IsReadyForCVS()) return E_FAIL;
@@ -47,7 +47,7 @@ HRESULT ZRKECVSManager::Edit() {
 
   CATUnicodeString answers;
   RunTool(CATUnicodeString("-n -q update ") + path, SandboxRoot, answers);
-  if (cvs::View(answers).starts_with('U')) {
+  if (text::View(answers).starts_with('U')) {
     wprintf(L"do update first\n");
     ShowNewerVersion(answers);
     product::Redraw(own);

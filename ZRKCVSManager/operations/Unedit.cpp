@@ -33,7 +33,7 @@ std::optional<int> AskUser(CATUnicodeString output) {
 }  // namespace
 
 HRESULT ZRKECVSManager::Unedit() {
-  const tools::PipeScope pipes(Tools());
+  const tools::RunScope run(Tools());
   const CATBaseUnknown_var own(this);
   if (IsSVN) return svn::SVNUnlock(SVN(), own);
   if (!IsReadyForCVS()) return E_FAIL;

@@ -14,27 +14,39 @@ CATBaseUnknown* CreateExtension(CATBaseUnknown& product) {
   return ContainedOr<CATBaseUnknown*>(nullptr, [&] { return new Extension(product); });
 }
 
+// Retrieved once and kept; null, and tried again with the next call, when the host cannot make it.
 template <class Extension>
 CATMetaClass* ExtensionMetaObject(const char* className) {
-  return fct_RetrieveMetaObject(className, CATMetaClassKind::DataExtension, CATBaseUnknown::MetaObject(),
-                                "ASMPRODUCT", "External", &CreateExtension<Extension>);
+  static CATMetaClass* meta = nullptr;
+  if (!meta) {
+    meta = fct_RetrieveMetaObject(className, CATMetaClassKind::DataExtension, CATBaseUnknown::MetaObject(),
+                                  "ASMPRODUCT", "External", &CreateExtension<Extension>);
+  }
+  return meta;
 }
 
-// Makes a tie between the interface and an extension object. The meta-class of such ties is made with the
-// first of them; when there is no memory for it the tie does without, and the next one tries again.
+// The meta-class of the ties between the two, made with the first of them; null, and tried again with the
+// next tie, when there is no memory for it.
+template <class Interface, class Extension>
+CATMetaClass* TieMetaClass() {
+  static CATMetaClass* metaClass = nullptr;
+  if (!metaClass) {
+    metaClass = ContainedOr<CATMetaClass*>(nullptr, [] {
+      CATMetaClass* const interfaceMeta = Interface::MetaObject();
+      return interfaceMeta ? new CATMetaClass(Interface::ClassId(), interfaceMeta->Name(), interfaceMeta,
+                                              Extension::MetaObject())
+                           : nullptr;
+    });
+  }
+  return metaClass;
+}
+
+// Makes a tie between the interface and an extension object; null when it cannot be made. A tie does
+// without a meta-class when there is none.
 template <class Tie, class Interface, class Extension>
 CATBaseUnknown* CreateTie(CATBaseUnknown* extension) {
-  static CATMetaClass* metaClass = nullptr;
   return ContainedOr<CATBaseUnknown*>(nullptr, [&]() -> CATBaseUnknown* {
-    if (!extension) return nullptr;
-    if (!metaClass) {
-      CATMetaClass* const interfaceMeta = Interface::MetaObject();
-      if (interfaceMeta) {
-        metaClass = new CATMetaClass(Interface::ClassId(), interfaceMeta->Name(), interfaceMeta,
-                                     Extension::MetaObject());
-      }
-    }
-    return new Tie(extension, metaClass);
+    return extension ? new Tie(extension, TieMetaClass<Interface, Extension>()) : nullptr;
   });
 }
 

@@ -11,35 +11,38 @@
 #include "shell/ZRKECVS.h"
 #include "shell/ZRKECVSModifiable.h"
 
+using zrk::shell::ContainedOr;
 using zrk::shell::ExtensionMetaObject;
 
 CATMetaClass* ZRKECVS::MetaObject() {
-  static CATMetaClass* const meta = ExtensionMetaObject<ZRKECVS>("ZRKECVS");
-  return meta;
+  return ExtensionMetaObject<ZRKECVS>("ZRKECVS");
 }
 
 CATMetaClass* ZRKECVSManager::MetaObject() {
-  static CATMetaClass* const meta = ExtensionMetaObject<ZRKECVSManager>("ZRKECVSManager");
-  return meta;
+  return ExtensionMetaObject<ZRKECVSManager>("ZRKECVSManager");
 }
 
 CATMetaClass* ZRKECVSModifiable::MetaObject() {
-  static CATMetaClass* const meta = ExtensionMetaObject<ZRKECVSModifiable>("ZRKECVSModifiable");
-  return meta;
+  return ExtensionMetaObject<ZRKECVSModifiable>("ZRKECVSModifiable");
 }
 
 namespace {
 
 constexpr int kOwnEntry = 1;
 
-[[maybe_unused]] const bool dictionaryFilled = [] {
-  CATFillDictionary(ZRKECVS::MetaObject(), ZRKICVS::MetaObject(), CreateTIEZRKICVSZRKECVS, nullptr,
-                    kOwnEntry);
-  CATFillDictionary(ZRKECVSManager::MetaObject(), ZRKICVSManager::MetaObject(),
-                    CreateTIEZRKICVSManagerZRKECVSManager, nullptr, kOwnEntry);
-  CATFillDictionary(ZRKECVSModifiable::MetaObject(), ZRKICVSModifiable::MetaObject(),
-                    CreateTIEZRKICVSModifiableZRKECVSModifiable, nullptr, kOwnEntry);
-  return true;
-}();
+// False when the host could not take the entry; the other interfaces are there all the same.
+template <class Extension, class Interface>
+bool Enter(CATBaseUnknown* (*createTie)(CATBaseUnknown*)) {
+  return ContainedOr(false, [&] {
+    CATFillDictionary(Extension::MetaObject(), Interface::MetaObject(), createTie, nullptr, kOwnEntry);
+    return true;
+  });
+}
+
+[[maybe_unused]] const bool entered[] = {
+    Enter<ZRKECVS, ZRKICVS>(CreateTIEZRKICVSZRKECVS),
+    Enter<ZRKECVSManager, ZRKICVSManager>(CreateTIEZRKICVSManagerZRKECVSManager),
+    Enter<ZRKECVSModifiable, ZRKICVSModifiable>(CreateTIEZRKICVSModifiableZRKECVSModifiable),
+};
 
 }  // namespace

@@ -13,11 +13,12 @@ int IsCVSable(CATBaseUnknown* object) {
 
 int IsCVSModifiable(CATBaseUnknown* object) {
   return ContainedOr(0, [&] {
-    const CATISpecObject_var feature(object);
-    if (!feature) return 0;
+    if (!object) return 0;
     const ZRKIAttDictionary_var dictionary = ZRKAttPackageBaseServices::GetDicoLookUp();
     if (!dictionary) return 0;
     const ZRKIAttStatus_var status = dictionary->LookUpClass("ZRKCVS");
-    return status && status->IsModifiable(feature) != 0 ? 1 : 0;
+    if (!status) return 0;
+    const CATISpecObject_var feature(object);
+    return feature && status->IsModifiable(feature) != 0 ? 1 : 0;
   });
 }

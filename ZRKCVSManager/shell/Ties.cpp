@@ -34,7 +34,7 @@ public:
     ContainedOr(0, [&] { return Extension()->RefreshStatus(CATISpecObject_var(root)), 0; });
   }
   HRESULT PrintCommTime() override {
-    return ContainedOr(E_FAIL, [&] { return Extension()->PrintCommTime(); });
+    return ContainedOr(S_OK, [&] { return Extension()->PrintCommTime(); });
   }
   HRESULT Edit() override {
     return ContainedOr(E_FAIL, [&] { return Extension()->Edit(); });
@@ -43,7 +43,7 @@ public:
     return ContainedOr(E_FAIL, [&] { return Extension()->Unedit(); });
   }
   HRESULT GetFileStatus(CATBaseUnknown_var product, ZRKCVSStatus& status) override {
-    return ContainedOr(E_FAIL, [&] { return Extension()->GetFileStatus(CATIProduct_var(product), status); });
+    return ContainedOr(S_OK, [&] { return Extension()->GetFileStatus(CATIProduct_var(product), status); });
   }
   HRESULT CVSRemove(const CATUnicodeString& file) override {
     return ContainedOr(E_FAIL, [&] { return Extension()->CVSRemove(file); });

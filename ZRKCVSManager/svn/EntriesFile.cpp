@@ -1,12 +1,11 @@
 #include "svn/EntriesFile.h"
 
-#include <algorithm>
 #include <cstdlib>
-#include <functional>
 #include <optional>
 #include <string>
 
 #include "files/TextFile.h"
+#include "text/TextSearch.h"
 
 namespace zrk::svn {
 namespace {
@@ -23,11 +22,9 @@ std::optional<std::string_view> TextBehindLine(std::string_view entries, std::st
   const std::string line = std::string(name) + '\n';
   if (entries.starts_with(line)) return entries.substr(line.size());
   const std::string lineAfterAnother = '\n' + line;
-  const std::boyer_moore_horspool_searcher searcher(lineAfterAnother.begin(), lineAfterAnother.end());
-  const auto found = std::search(entries.begin(), entries.end(), searcher);
-  if (found == entries.end()) return std::nullopt;
-  const auto position = static_cast<std::size_t>(found - entries.begin());
-  return entries.substr(position + lineAfterAnother.size());
+  const std::size_t found = text::TextSearch(lineAfterAnother).Find(entries);
+  if (found == std::string_view::npos) return std::nullopt;
+  return entries.substr(found + lineAfterAnother.size());
 }
 
 // Skips lines at the front of `text`; nothing when it has fewer.
@@ -78,7 +75,7 @@ HRESULT ReadSVNEntry(const char* path, ZRKCVSStatus& record) {
   const std::string_view name = separator == std::string_view::npos ? whole : whole.substr(separator + 1);
   const auto entries = files::ReadText(std::string(folder) + "\\.svn\\entries");
   if (!entries) return E_FAIL;
-  ReadEntry(*entries, name, record);
+  ReadEntry(entries->View(), name, record);
   return S_OK;
 }
 

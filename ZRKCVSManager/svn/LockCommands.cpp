@@ -2,6 +2,7 @@
 
 #include <initializer_list>
 
+#include "CATISpecObject.h"
 #include "product/ProductDocument.h"
 #include "svn/StatusReaders.h"
 
@@ -18,7 +19,7 @@ HRESULT RunAndRefresh(const SVNContext& context, const CATBaseUnknown_var& produ
   const product::ProductDocument document = product::ReachDocument(product);
   if (!document.Exists()) return E_FAIL;
   for (const char* command : commands) Run(context, FileCommand(command, document.Path));
-  RefreshSVNStatus(context, product);
+  RefreshSVNStatus(context, CATISpecObject_var(product));
   return S_OK;
 }
 

@@ -4,12 +4,12 @@
 
 #include "ZRKAttModelerServices.h"
 #include "ZRKAttPackageBaseServices.h"
+#include "text/Text.h"
 
 namespace zrk::svn {
 
 bool ShowsForeignLock(const CATUnicodeString& report) {
-  const std::string_view text(report.ConvertToChar(), static_cast<std::size_t>(report.GetLengthInByte()));
-  return text.find(" O ") != std::string_view::npos;
+  return text::View(report).find(" O ") != std::string_view::npos;
 }
 
 std::optional<CATUnicodeString> FirstLockOwner(const CATUnicodeString& xmlReport) {

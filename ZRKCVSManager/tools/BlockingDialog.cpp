@@ -1,28 +1,27 @@
 #include "tools/BlockingDialog.h"
 
-#include <memory>
-
 #include "CATApplicationFrame.h"
 #include "CATDlgNotify.h"
 
 namespace zrk::tools {
 namespace {
 
-struct DialogEnder {
-  void operator()(CATDialog* dialog) const { dialog->RequestDestruction(); }
-};
+CATDialog* MainWindow() {
+  CATApplicationFrame* const frame = CATApplicationFrame::GetFrame();
+  return frame ? frame->GetMainWindow() : nullptr;
+}
 
 }  // namespace
 
 std::optional<int> DisplayBlocked(DialogKind kind, const CATUnicodeString& message,
                                   const CATUnicodeString& title) {
-  CATApplicationFrame* const frame = CATApplicationFrame::GetFrame();
-  if (!frame) return std::nullopt;
-  CATDialog* const mainWindow = frame->GetMainWindow();
+  CATDialog* const mainWindow = MainWindow();
   if (!mainWindow) return std::nullopt;
-  const std::unique_ptr<CATDlgNotify, DialogEnder> dialog(
-      new CATDlgNotify(mainWindow, "Warning", static_cast<unsigned int>(kind)));
-  return dialog->DisplayBlocked(message, title);
+  auto* const dialog = new CATDlgNotify(mainWindow, "Warning", static_cast<unsigned int>(kind));
+  const int answer = dialog->DisplayBlocked(message, title);
+  // A window that was closed meanwhile has taken its dialogs along.
+  if (MainWindow() == mainWindow) dialog->RequestDestruction();
+  return answer;
 }
 
 }  // namespace zrk::tools

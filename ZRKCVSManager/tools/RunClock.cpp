@@ -12,7 +12,8 @@ namespace {
 
 constexpr double kTicksPerSecond = 1000.0;
 
-// The clock has 32 bits on Windows and runs over every 49 days; unsigned differences survive that.
+// The clock has 32 bits on Windows. Its differences are taken in unsigned arithmetic, which survives a
+// clock that runs over, and read as signed numbers, so that one set back by a little gives a little.
 std::uint32_t Now() {
   return static_cast<std::uint32_t>(clock());
 }
@@ -22,7 +23,7 @@ std::uint32_t Now() {
 RunClock::RunClock() : start_(Now()) {}
 
 Ticks RunClock::Elapsed() const {
-  return Now() - start_;
+  return static_cast<std::int32_t>(Now() - start_);
 }
 
 void ReportTime(const char* label, double ticks) {

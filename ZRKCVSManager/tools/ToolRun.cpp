@@ -1,8 +1,11 @@
 #include "tools/ToolRun.h"
 
+#include <algorithm>
 #include <cstring>
 #include <string>
 #include <string_view>
+
+#include "text/TextSearch.h"
 
 namespace zrk::tools {
 namespace {
@@ -35,27 +38,23 @@ std::int32_t LaunchTool(const ToolContext& context, const CATUnicodeString& comm
   return created;
 }
 
-// Whether `output`, searched before up to `searched` bytes, holds the question. Only what is new, and
-// before it as much as an occurrence can reach back, is looked at.
-bool HoldsQuestion(const CATUnicodeString& output, std::size_t& searched) {
-  const std::string_view text(output.ConvertToChar(), static_cast<std::size_t>(output.GetLengthInByte()));
-  const std::size_t overlap = kQuestion.size() - 1;
-  const std::size_t from = searched > overlap ? searched - overlap : 0;
-  searched = text.size();
-  return text.find(kQuestion, from) != std::string_view::npos;
-}
-
-void ReadOutput(const ToolContext& context, CATUnicodeString& output) {
+// True when the client waits for an answer, false when its output has ended.
+bool ReadOutput(const ToolContext& context, CATUnicodeString& output) {
+  static const text::TextSearch question(kQuestion);
   char buffer[kChunkSize + 1];
-  std::size_t searched = 0;
-  do {
+  std::string unsearched = output.ConvertToChar();
+  for (;;) {
     DWORD count = 0;
     buffer[0] = '\0';
-    if (!ReadFile(context.ChildOutput.Read.Get(), buffer, kChunkSize, &count, nullptr)) return;
-    if (count == 0) return;
+    if (!ReadFile(context.ChildOutput.Read.Get(), buffer, kChunkSize, &count, nullptr)) return false;
+    if (count == 0) return false;
     buffer[count] = '\0';
     output += buffer;
-  } while (!HoldsQuestion(output, searched));
+    unsearched += buffer;
+    if (question.Find(unsearched) != std::string_view::npos) return true;
+    // What the question can reach back into stays.
+    unsearched.erase(0, unsearched.size() - std::min(unsearched.size(), kQuestion.size() - 1));
+  }
 }
 
 }  // namespace
@@ -64,6 +63,7 @@ void RunTool(const ToolContext& context, const CATUnicodeString& arguments,
              const CATUnicodeString& workingFolder, CATUnicodeString& output) {
   if (!context.IsSVN && context.CVSExePath.GetLengthInChar() < 1) return;
 
+  FinishRun(context);
   SECURITY_ATTRIBUTES attributes{sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};
   if (!CreatePipe(context.ChildOutput.Read.Receive(), context.ChildOutput.Write.Receive(), &attributes, 0)) {
     OutputDebugStringW(L"Stdout pipe creation failed\n");
@@ -89,29 +89,26 @@ void RunTool(const ToolContext& context, const CATUnicodeString& arguments,
     OutputDebugStringW(L"Closing handle failed\n");
     return;
   }
-  ReadOutput(context, output);
+  if (!ReadOutput(context, output)) context.ChildOutput.Close();
 }
 
-void AnswerTool(const ToolContext& context, const char* answer, DWORD patience) {
+void AnswerTool(const ToolContext& context, const char* answer) {
   if (answer) {
     DWORD written = 0;
     const auto size = static_cast<DWORD>(std::strlen(answer) + 1);
     WriteFile(context.ChildInput.Write.Get(), answer, size, &written, nullptr);
   }
-  context.ChildInput.Write.Close();
+  FinishRun(context);
+}
 
-  char buffer[kChunkSize];
-  DWORD available = 0;
-  DWORD silence = 0;
-  while (silence < patience &&
-         PeekNamedPipe(context.ChildOutput.Read.Get(), nullptr, 0, nullptr, &available, nullptr)) {
+void FinishRun(const ToolContext& context) {
+  context.ChildInput.Close();
+  // While this process holds the write end itself, the output has no end.
+  context.ChildOutput.Write.Close();
+  if (context.ChildOutput.Read.Get()) {
+    char buffer[kChunkSize];
     DWORD count = 0;
-    if (available == 0) {
-      Sleep(1);
-      ++silence;
-    } else {
-      if (!ReadFile(context.ChildOutput.Read.Get(), buffer, sizeof(buffer), &count, nullptr)) break;
-      silence = 0;
+    while (ReadFile(context.ChildOutput.Read.Get(), buffer, sizeof(buffer), &count, nullptr) && count > 0) {
     }
   }
   context.ChildOutput.Read.Close();

@@ -28,31 +28,29 @@ struct ToolContext {
 //
 // Nothing runs in CVS mode without a path of cvs.exe. Failures are told on the debugger channel alone and
 // leave `output` as it is. The client's exit status is not known. Afterwards the write end of the
-// client's standard input is open, and after a question also the read end of its output; a PipeScope or
-// the next run closes them.
+// client's standard input is open, and after a question also the read end of its output, until FinishRun
+// or the next run.
 void RunTool(const ToolContext& context, const CATUnicodeString& arguments,
              const CATUnicodeString& workingFolder, CATUnicodeString& output);
 
-// Answers the client that waits after RunTool with the bytes of `answer` and its closing 0, closes the
-// client's standard input and reads its output to the end, so that what the client does upon the answer
-// is done. A client that says nothing for `patience` milliseconds is let go. A null answer is none: the
-// client sees the end of its input.
-void AnswerTool(const ToolContext& context, const char* answer, DWORD patience = 30'000);
+// Answers the client that waits after RunTool with the bytes of `answer` and its closing 0, and finishes
+// the run, so that what the client does upon the answer is done. A null answer is none.
+void AnswerTool(const ToolContext& context, const char* answer);
 
-// Closes the pipes of a run when an operation is over, whatever way it ends.
-class PipeScope {
+// Ends the last run, if there was one: the client sees the end of its input, and what it still writes is
+// read to the end and dropped, however long that takes. No pipe is open afterwards.
+void FinishRun(const ToolContext& context);
+
+// Finishes the last run when an operation is over, whatever way it ends.
+class RunScope {
 public:
-  explicit PipeScope(const ToolContext& context) : output_(context.ChildOutput), input_(context.ChildInput) {}
-  PipeScope(const PipeScope&) = delete;
-  PipeScope& operator=(const PipeScope&) = delete;
-  ~PipeScope() {
-    input_.Close();
-    output_.Close();
-  }
+  explicit RunScope(const ToolContext& context) : context_(context) {}
+  RunScope(const RunScope&) = delete;
+  RunScope& operator=(const RunScope&) = delete;
+  ~RunScope() { FinishRun(context_); }
 
 private:
-  Pipe& output_;
-  Pipe& input_;
+  ToolContext context_;
 };
 
 }  // namespace zrk::tools

@@ -8,39 +8,75 @@
 class ZRKCVSStatus;
 
 // Version control of a product's document and of the tree below the product. Implemented by the
-// version-control component for every product; every call runs on the caller's thread and returns when
-// the client program has ended.
+// version-control component for every product.
 //
-// Results are 0 for success and 0x80004005 for an operation that was refused or could not start, unless
-// an operation says otherwise.
+// Every call runs on the caller's thread. The clients cvs.exe and svn.exe, looked for along PATH when the
+// product is first asked for this interface, run as hidden child processes; a call returns when they have
+// ended their output. Which of the two a call uses, and the folder that it runs in, follow from the working
+// copy in which the document of the manager's product lies, or else the first one below it that does.
+//
+// Results are 0 (S_OK) and 0x80004005 (E_FAIL): the operation was refused, or could not start. Neither
+// tells what the client thought of a command, unless an operation says so: the "Status" attribute does, once
+// it is refreshed. Failed starts of a client are told on the debugger channel alone. Where a user has to be
+// told that cvs.exe is missing, the host's main window shows it.
 class ZRKICVSManager : public CATBaseUnknown {
   CATDeclareInterface
 
-  // Asks the client about every document of the tree below `root` and writes "Revision", "Status",
-  // "Release" and "Comment" onto the products. In a Subversion working copy the tree is that of the
-  // manager's own product, whatever `root` is.
+  // Asks the client about every document of the tree below `root`, puts the products into work mode 1, and
+  // writes "Revision", "Status", "Release" and "Comment" onto them:
+  //
+  //   CVS         `cvs status -v` and `cvs -n edit` over all documents, in as few runs as command lines
+  //               allow; without any CVS document in the tree, over all of the working copy
+  //   Subversion  `.svn\entries`, `svn status -v -u` and the same with `--xml`, one document at a time; the
+  //               tree is that of the manager's own product, whatever `root` is
+  //
+  // A document that the client does not know takes the attributes off its product and, in CVS, is told on
+  // standard output as not found; a product whose reference is not loaded or cannot have a document loses
+  // its attributes too. Below a product without a document the walk does not go. Three messages on the
+  // debugger channel tell where the time went. Nothing happens, and nothing is told, in CVS without a
+  // working copy, without a root or without the attribute package "ZRKCVS"; without cvs.exe the user is
+  // told.
   virtual void RefreshStatus(CATBaseUnknown_var root) = 0;
 
-  // Writes the time spent waiting for the CVS client, in milliseconds, to standard output and starts
-  // counting anew. Always 0.
+  // Writes " Total CVS Comm Time: ", the milliseconds spent waiting for cvs.exe and a line end to standard
+  // output and starts counting anew. Counted are GetFileStatus and the questions behind Edit; a refresh, as
+  // of Unedit, replaces the count by the time of its `-n edit` runs. Always 0.
   virtual HRESULT PrintCommTime() = 0;
 
-  // Takes the document of the manager's product for editing. 1: the client answered with a message,
-  // which the user has seen.
+  // Takes the document of the manager's product for editing.
+  //
+  //   CVS         `cvs -n -q update`, and when that announces a newer version, a warning and E_FAIL; else
+  //               `cvs -q -x edit -z -c`. 1 when the client answered anything, which a warning shows where
+  //               there is a main window, or when the product cannot carry the attributes. On 0 "Status" is
+  //               "Edit". E_FAIL too without cvs.exe (the user is told), a working copy or a document
+  //   Subversion  `svn update`, `svn lock` and a refresh of the product. 0 also when the lock was not given:
+  //               "Status" tells. E_FAIL without a document
   virtual HRESULT Edit() = 0;
 
-  // Gives the document of the manager's product back. 1: the user declined to lose the changes.
+  // Gives the document of the manager's product back.
+  //
+  //   CVS         refreshes the product and goes on only if its "Status" is "Edit", else E_FAIL; then `cvs -q
+  //               -x unedit`. When the client asks whether to lose the changes, the user is asked; 1 when
+  //               they declined. Then the product is refreshed again. E_FAIL too as in Edit
+  //   Subversion  `svn unlock` and a refresh of the product. 0 also when that failed: "Status" tells. E_FAIL
+  //               without a document
   virtual HRESULT Unedit() = 0;
 
-  // Fills `status` with what the CVS client says about the document of a reference product. Always 0: a
-  // record that is left as it was tells that nothing is known.
+  // Fills `status` with what `cvs status -v` says about the document of a reference product. Always 0: fields
+  // that are left as they were tell that nothing is known, as for an instance, without a document, without
+  // cvs.exe (which is not told here) and, mostly, in a Subversion working copy. The first tag is appended to
+  // ExistingTags, so that a record is good for one call.
   virtual HRESULT GetFileStatus(CATBaseUnknown_var product, ZRKCVSStatus& status) = 0;
 
-  // Removes the file of that full path from CVS. What the client answers is not looked at.
+  // Removes the file of that full path from disk and, with the next commit, from CVS: `cvs remove -f` in the
+  // file's folder. E_FAIL, with nothing run, in a Subversion working copy and without cvs.exe (the user is
+  // told). What the client answers is not looked at, and no attribute changes.
   virtual HRESULT CVSRemove(const CATUnicodeString& file) = 0;
 
-  // Schedules the file of that full path for deletion from Subversion. What the client answers is not
-  // looked at.
+  // Removes the file of that full path, with changes or not, and schedules it for deletion from Subversion:
+  // `svn delete -m"zq" --force`. The client must put up with a message for a local deletion. E_FAIL, with
+  // nothing run, outside a Subversion working copy. What the client answers is not looked at, and no
+  // attribute changes.
   virtual HRESULT SVNDelete(const CATUnicodeString& file) = 0;
 };
 

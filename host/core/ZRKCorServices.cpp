@@ -33,7 +33,13 @@ void ZRKCorParserServices::SplitFilePath(const CATUnicodeString& path, CATUnicod
   // Copied first, as a caller may get a part back in the very text it passed.
   const std::string whole = path.ConvertToChar();
   const std::size_t separator = whole.rfind('\\');
-  const bool hasFolder = separator != std::string::npos;
-  folder = hasFolder ? whole.substr(0, separator).c_str() : "";
-  name = hasFolder ? whole.substr(separator + 1).c_str() : whole.c_str();
+  if (separator == std::string::npos) {
+    folder = "";
+    name = whole.c_str();
+    return;
+  }
+  // The name of a root is its separator: "C:" alone would be the folder that drive was last used in.
+  const bool isRoot = separator == 0 || whole[separator - 1] == ':';
+  folder = whole.substr(0, isRoot ? separator + 1 : separator).c_str();
+  name = whole.substr(separator + 1).c_str();
 }

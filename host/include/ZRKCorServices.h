@@ -12,7 +12,7 @@ public:
 
 class ZRKCorParserServices {
 public:
-  // Splits at the last "\": the folder without it and the name behind it. Without any "\" the folder is
-  // empty and the name is the whole path.
+  // Splits at the last "\": the folder without it, but for a root ("C:\", "\"), and the name behind it.
+  // Without any "\" the folder is empty and the name is the whole path.
   static void SplitFilePath(const CATUnicodeString& path, CATUnicodeString& folder, CATUnicodeString& name);
 };

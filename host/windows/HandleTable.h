@@ -10,6 +10,7 @@
 #include <mutex>
 
 #include "windows/FileDescriptor.h"
+#include "windows/PipeReader.h"
 
 namespace standin {
 
@@ -18,6 +19,8 @@ namespace standin {
 struct KernelObject {
   FileDescriptor Descriptor;
   std::atomic<bool> Inheritable = false;
+  // Of the read end of a pipe.
+  PipeReader Reader;
 };
 
 // The handles of this process. A value is never given out twice, so that whatever is done with a closed

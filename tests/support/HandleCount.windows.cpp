@@ -38,9 +38,8 @@ QuerySystem FindQuerySystem() {
   return reinterpret_cast<QuerySystem>(address);
 }
 
-}  // namespace
-
-int CountOpenHandles() {
+// Those of this process.
+std::vector<HANDLE> OpenHandles() {
   const QuerySystem query = FindQuerySystem();
   std::vector<std::byte> buffer(std::size_t{1} << 16);
   LONG result = kTooSmall;
@@ -50,7 +49,25 @@ int CountOpenHandles() {
   }
   if (result != 0) throw std::runtime_error("the system does not tell its handles");
   const auto& all = *reinterpret_cast<const SystemHandles*>(buffer.data());
+  std::vector<HANDLE> handles;
+  for (ULONG_PTR i = 0; i < all.Count; ++i) {
+    if (all.Handles[i].Process != GetCurrentProcessId()) continue;
+    handles.push_back(reinterpret_cast<HANDLE>(all.Handles[i].Value));
+  }
+  return handles;
+}
+
+}  // namespace
+
+int CountOpenHandles() {
+  return static_cast<int>(OpenHandles().size());
+}
+
+int CountInheritableHandles() {
   int count = 0;
-  for (ULONG_PTR i = 0; i < all.Count; ++i) count += all.Handles[i].Process == GetCurrentProcessId();
+  for (const HANDLE handle : OpenHandles()) {
+    DWORD flags = 0;
+    if (GetHandleInformation(handle, &flags) && (flags & HANDLE_FLAG_INHERIT)) ++count;
+  }
   return count;
 }

@@ -4,7 +4,7 @@
 
 #include "windows/LaunchLog.h"
 
-// Records the calls of CreateProcessW while it lives. Linux only: there the function is the stand-in's.
+// Records the calls of CreateProcessW while it lives.
 class Launches {
 public:
   Launches();

@@ -103,6 +103,9 @@ ScriptedRule& ScriptedRule::Exit(int status) {
 ScriptedRule& ScriptedRule::Crash() {
   return Append("crash");
 }
+ScriptedRule& ScriptedRule::TellConsole() {
+  return Append("console");
+}
 ScriptedRule& ScriptedRule::Once() {
   return Append("once");
 }

@@ -56,6 +56,9 @@ public:
   // Ends as a fault would.
   ScriptedRule& Crash();
 
+  // Writes what console it is attached to: "own console, no window" or, as always on Linux, "no console".
+  ScriptedRule& TellConsole();
+
   // Only for the next run that fits; later ones go on to the rules behind.
   ScriptedRule& Once();
   // Only for that client, such as "svn.exe".

@@ -96,18 +96,14 @@ BOOL CreateProcessW(LPCWSTR application, LPWSTR commandLine, LPSECURITY_ATTRIBUT
 // Waits until there is something to read; fails when nothing is left and the other end is closed.
 BOOL ReadFile(HANDLE handle, LPVOID buffer, DWORD size, LPDWORD read, LPOVERLAPPED overlapped);
 BOOL WriteFile(HANDLE handle, LPCVOID buffer, DWORD size, LPDWORD written, LPOVERLAPPED overlapped);
-// How much of a pipe can be read without waiting; only `available` may be asked for. Fails like ReadFile.
-BOOL PeekNamedPipe(HANDLE handle, LPVOID buffer, DWORD size, LPDWORD read, LPDWORD available,
-                   LPDWORD leftInMessage);
 BOOL CloseHandle(HANDLE handle);
 // Of this process's standard streams, which keep it: it cannot be closed.
 HANDLE GetStdHandle(DWORD which);
-void Sleep(DWORD milliseconds);
 
 // To whoever listens on the debugger channel: one call, one message.
 void OutputDebugStringW(LPCWSTR message);
 
-// The Windows C runtime's own functions; on Windows they come with <sys/stat.h> and <time.h>.
+// The Windows C runtime's own functions; on Windows they come with <sys/stat.h>.
 struct _stat64i32 {
   std::uint16_t st_mode;
   std::int32_t st_size;
@@ -117,9 +113,6 @@ struct _stat64i32 {
 // 0, or -1 when there is no such file, which leaves `result` as it is; `path` is separated by "\". Sizes
 // that do not fit are cut to the largest that does.
 int _stat64i32(const char* path, struct _stat64i32* result);
-
-using __time64_t = std::int64_t;
-double _difftime64(__time64_t end, __time64_t start);
 
 }  // extern "C"
 

@@ -252,7 +252,10 @@ TEST_F(Discovery, OfADeepTreeCostsNoStack) {
 
 TEST_F(Discovery, TellsACVSWorkingCopyByItsRepositoryFile) {
   WriteFile(folder_ / "w/CVS/Repository", "");
-  EXPECT_TRUE(zrk::cvs::IsInCVSWorkingCopy((HostFolder("w") + "a").c_str()));
-  EXPECT_FALSE(zrk::cvs::IsInCVSWorkingCopy((HostFolder("w") + "sub\\a").c_str()));
-  EXPECT_FALSE(zrk::cvs::IsInCVSWorkingCopy((folder_.Host() + "\\w").c_str()));
+  zrk::cvs::CVSFolders folders;
+  EXPECT_TRUE(folders.Hold((HostFolder("w") + "a").c_str()));
+  EXPECT_TRUE(folders.Hold((HostFolder("w") + "b").c_str()));
+  EXPECT_FALSE(folders.Hold((HostFolder("w") + "sub\\a").c_str()));
+  EXPECT_FALSE(folders.Hold((folder_.Host() + "\\w").c_str()));
+  EXPECT_TRUE(folders.Hold((HostFolder("w") + "a").c_str()));
 }

@@ -142,7 +142,7 @@ Operation Unedit() {
 Operation UneditWithTheQuestion(bool agree) {
   Operation operation{"",
                       FaultStage::Kind::CVS,
-                      {2, 1, 1, 2, 1},
+                      {2, 1, 2, 2, 1},
                       1,
                       [](FaultStage& stage) {
                         TakeForEditing(stage);
@@ -162,7 +162,7 @@ Operation UneditWithTheQuestion(bool agree) {
   if (agree) return operation;
 
   operation.Name = "UneditWithTheQuestionDeclined";
-  operation.Reads = {2, 1, 1};
+  operation.Reads = {2, 1, 2};
   operation.Prepare = [](FaultStage& stage) {
     TakeForEditing(stage);
     stage.AnswerQuestions({DialogAnswer::No});

@@ -2,14 +2,22 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
+
 #include "support/Files.h"
 #include "support/HandleCount.h"
 #include "support/TemporaryFolder.h"
 
 using zrk::files::CanOpen;
-using zrk::files::ReadText;
 
 namespace {
+
+std::optional<std::string> ReadText(const std::string& path) {
+  const auto text = zrk::files::ReadText(path);
+  if (!text) return std::nullopt;
+  return std::string(text->View());
+}
 
 class ATextFile : public testing::Test {
 protected:
@@ -51,6 +59,14 @@ TEST_F(ATextFile, KeepsEveryOtherByte) {
 TEST_F(ATextFile, MayBeLarge) {
   const std::string bytes(1'000'001, 'x');
   EXPECT_TRUE(Read(bytes) == bytes);
+}
+
+TEST_F(ATextFile, ThatGrowsWhileItIsReadIsReadOn) {
+  // Of a device the size is not known beforehand; on Windows there is none that could be read here.
+  if (!std::filesystem::exists("/proc/self/environ")) GTEST_SKIP() << "needs a file that tells no size";
+  std::ifstream stream("/proc/self/environ", std::ios::binary);
+  const std::string expected{std::istreambuf_iterator<char>(stream), {}};
+  EXPECT_EQ(ReadText("\\proc\\self\\environ"), expected);
 }
 
 TEST_F(ATextFile, ThatIsNotThereCannotBeRead) {

@@ -1,7 +1,8 @@
 #include "component/operations/OperationTest.h"
 #include "windows/WindowsControl.h"
 
-// Every call to the system that an operation makes is made to fail, each in turn.
+// Every call to the system that an operation makes is made to fail, each in turn. Linux only: it takes
+// hundreds of runs, and minutes under Wine; tools/ToolFaultsTest does the same there with single runs.
 
 namespace {
 

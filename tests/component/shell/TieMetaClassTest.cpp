@@ -18,14 +18,14 @@ class TestInterface : public CATBaseUnknown {
 CATImplementInterface(TestInterface,
                       {0x7d9e1c40, 0x11aa, 0x4c1b, {0x8e, 0x01, 0x5a, 0x33, 0x70, 0x42, 0x9b, 0x10}})
 
-    // Its meta-object is not made before it is asked for.
-    class RareInterface : public CATBaseUnknown {
+// Its meta-object is not made before it is asked for.
+class RareInterface : public CATBaseUnknown {
   CATDeclareInterface
 };
 CATImplementInterface(RareInterface,
                       {0x7d9e1c41, 0x11aa, 0x4c1b, {0x8e, 0x01, 0x5a, 0x33, 0x70, 0x42, 0x9b, 0x10}})
 
-    class Product : public CATBaseUnknown {};
+class Product : public CATBaseUnknown {};
 
 class TestExtension : public CATBaseUnknown {
 public:
@@ -38,7 +38,12 @@ public:
 };
 
 // `Number` tells kinds of tie apart, each with a meta-class of its own.
-template <int Number, class Interface>
+template <int Number>
+struct ExtensionKind {
+  static CATMetaClass* MetaObject() { return TestExtension::MetaObject(); }
+};
+
+template <class Interface>
 class TestTie : public CATTie<Interface> {
 public:
   using CATTie<Interface>::CATTie;
@@ -47,7 +52,7 @@ public:
 template <int Number, class Interface = TestInterface>
 CATHandle<Interface> MakeTie(CATBaseUnknown& extension) {
   return CATHandle<Interface>::Adopt(static_cast<Interface*>(
-      zrk::shell::CreateTie<TestTie<Number, Interface>, Interface, TestExtension>(&extension)));
+      zrk::shell::CreateTie<TestTie<Interface>, Interface, ExtensionKind<Number>>(&extension)));
 }
 
 class TieMetaClass : public testing::Test {

@@ -6,6 +6,7 @@
 #include "component/tools/ToolRunner.h"
 #include "support/Files.h"
 #include "support/HandleCount.h"
+#include "windows/WindowsControl.h"
 
 using zrk::tools::AnswerTool;
 
@@ -85,4 +86,14 @@ TEST_F(Answer, ThePipesAreClosedBehindIt) {
   EXPECT_EQ(CountOpenHandles(), handles);
   EXPECT_EQ(tool_.ChildInput.Write.Get(), nullptr);
   EXPECT_EQ(tool_.ChildOutput.Read.Get(), nullptr);
+}
+
+TEST(AnswerFaults, AFailedWriteStillLetsTheClientSeeTheEndOfItsInput) {
+  ToolRunner tool;
+  tool.Client.Otherwise().Out("revert changes? ").ReadAll();
+  tool.Run("unedit");
+  standin::FailWindowsCall(standin::WindowsCall::WriteFile, 0);
+  zrk::tools::AnswerTool(tool.Context(), "yes");
+  standin::FailWindowsCall(standin::WindowsCall::WriteFile, -1);
+  EXPECT_EQ(tool.ClientInput(), "");
 }

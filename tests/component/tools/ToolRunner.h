@@ -34,7 +34,7 @@ public:
     return runs.empty() ? "not run" : runs.back().Input;
   }
 
-  void ClosePipes() { const zrk::tools::PipeScope ending(Context()); }
+  void ClosePipes() { const zrk::tools::RunScope ending(Context()); }
 
   ScriptedClient Client;
   TemporaryFolder Folder;

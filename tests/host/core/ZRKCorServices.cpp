@@ -147,11 +147,15 @@ Parts Split(const char* path) {
 TEST(SplitFilePath, SplitsAtTheLastSeparator) {
   EXPECT_EQ(Split("\\w\\proj\\a.txt").Folder, "\\w\\proj");
   EXPECT_EQ(Split("\\w\\proj\\a.txt").Name, "a.txt");
-  EXPECT_EQ(Split("C:\\a.txt").Folder, "C:");
-  EXPECT_EQ(Split("\\a.txt").Folder, "");
-  EXPECT_EQ(Split("\\a.txt").Name, "a.txt");
   EXPECT_EQ(Split("\\w\\").Folder, "\\w");
   EXPECT_EQ(Split("\\w\\").Name, "");
+}
+
+TEST(SplitFilePath, KeepsTheSeparatorOfARoot) {
+  EXPECT_EQ(Split("C:\\a.txt").Folder, "C:\\");
+  EXPECT_EQ(Split("C:\\a.txt").Name, "a.txt");
+  EXPECT_EQ(Split("\\a.txt").Folder, "\\");
+  EXPECT_EQ(Split("\\a.txt").Name, "a.txt");
 }
 
 TEST(SplitFilePath, GivesAnEmptyFolderWithoutSeparator) {

@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <ctime>
+#include <thread>
 
 using std::chrono::steady_clock;
 
@@ -18,7 +19,7 @@ TEST(Clock, CountsMillisecondsThatPassWithoutWork) {
   const auto outerStart = steady_clock::now();
   const clock_t start = clock();
   const auto innerStart = steady_clock::now();
-  Sleep(30);
+  std::this_thread::sleep_for(std::chrono::milliseconds(30));
   const long inner = Milliseconds(steady_clock::now() - innerStart);
   const clock_t end = clock();
   const long outer = Milliseconds(steady_clock::now() - outerStart);
@@ -30,9 +31,4 @@ TEST(Clock, CountsMillisecondsThatPassWithoutWork) {
 TEST(Clock, StartsWithTheProcess) {
   EXPECT_GE(clock(), 0);
   EXPECT_LT(clock(), 24 * 3600 * 1000) << "the clock counts from somewhere else";
-}
-
-TEST(Difftime, IsTheSignedDifference) {
-  EXPECT_EQ(_difftime64(1500, 250), 1250.0);
-  EXPECT_EQ(_difftime64(250, 1500), -1250.0);
 }

@@ -23,5 +23,9 @@ bool CreateNewFile(const std::string& path);
 // 0, 1 or 2.
 void CloseStandardStream(int number);
 
+// What console this process is attached to: "no console"; "own" or, when other processes are attached too,
+// "shared console", and "window" or "no window".
+std::string ConsoleText();
+
 // Ends this process as a fault would: nothing is flushed, nothing is run.
 [[noreturn]] void EndAbruptly();

@@ -39,6 +39,10 @@ void CloseStandardStream(int number) {
   close(number);
 }
 
+std::string ConsoleText() {
+  return "no console";
+}
+
 void EndAbruptly() {
   raise(SIGKILL);
   std::abort();

@@ -50,6 +50,16 @@ void CloseStandardStream(int number) {
   _close(number);
 }
 
+std::string ConsoleText() {
+  const HANDLE console = CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE,
+                                     FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
+  if (console == INVALID_HANDLE_VALUE) return "no console";
+  CloseHandle(console);
+  std::array<DWORD, 2> processes{};
+  const bool isOwn = GetConsoleProcessList(processes.data(), static_cast<DWORD>(processes.size())) == 1;
+  return std::string(isOwn ? "own" : "shared") + " console, " + (GetConsoleWindow() ? "window" : "no window");
+}
+
 void EndAbruptly() {
   TerminateProcess(GetCurrentProcess(), 3);
   std::abort();

@@ -110,6 +110,8 @@ std::optional<int> Perform(const Action& action, RunLog& log) {
     std::this_thread::sleep_for(std::chrono::minutes(1));
   } else if (verb == "exit") {
     return std::atoi(first.c_str());
+  } else if (verb == "console") {
+    Write(stdout, ConsoleText());
   } else if (verb == "crash") {
     EndAbruptly();
   } else {

@@ -26,6 +26,7 @@
 //   closein           closes standard input
 //   hang              waits until standard input ends
 //   hangforever       waits for a minute: to be killed, or not to be waited for
+//   console           writes what console the client is attached to
 //   exit NUMBER       ends with that status
 //   crash             ends as a fault would
 //

@@ -1,7 +1,7 @@
 #include "component/operations/OperationTest.h"
 #include "windows/LaunchLog.h"
 
-// Linux only: there the moment of each launch is known.
+// The communication time as it stands at the moment of a launch.
 
 namespace {
 

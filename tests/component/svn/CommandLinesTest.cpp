@@ -66,7 +66,7 @@ TEST_F(SVNCommandLines, OfARefresh) {
 }
 
 TEST_F(SVNCommandLines, KeepNamesOfAnyAlphabet) {
-  Products.Add("wheel", "wc/Tr\xC3\xA4gerplatte.CATPart");
+  Products.Add("wheel", std::filesystem::path(u8"wc/Tr\u00E4gerplatte.CATPart"));
   const ZRKICVSManager_var manager = Products.At("wheel");
   manager->Unedit();
   EXPECT_EQ(Lines().at(0),

@@ -7,10 +7,11 @@
 
 #include "CATUnicodeString.h"
 
-namespace zrk::cvs {
+namespace zrk::text {
 
+// The 8-bit text of the host's; good until that changes. Empty for one longer than the host can count.
 inline std::string_view View(const CATUnicodeString& text) {
-  return {text.ConvertToChar(), static_cast<std::size_t>(text.GetLengthInByte())};
+  return {text.ConvertToChar(), static_cast<std::size_t>(std::max(text.GetLengthInByte(), 0))};
 }
 
 // `length` characters from `start`. Nothing when `start` lies past the end; all that follows when the
@@ -36,4 +37,4 @@ inline std::string Replaced(std::string_view text, char searched, char replaceme
   return result;
 }
 
-}  // namespace zrk::cvs
+}  // namespace zrk::text

@@ -1,0 +1,40 @@
+#include "windows/PipeReader.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+namespace standin {
+namespace {
+
+constexpr std::size_t Capacity = std::size_t{64} * 1024;  // of a pipe
+
+long ReadRaw(int descriptor, void* buffer, std::size_t size) {
+  ssize_t count;
+  do {
+    count = read(descriptor, buffer, size);
+  } while (count < 0 && errno == EINTR);
+  return count;
+}
+
+}  // namespace
+
+long PipeReader::Read(int descriptor, void* buffer, std::size_t size, bool shared) {
+  const std::lock_guard lock(mutex_);
+  if (begin_ == end_) {
+    if (shared) return ReadRaw(descriptor, buffer, size);
+    if (!ahead_) ahead_ = std::make_unique_for_overwrite<char[]>(Capacity);
+    const long count = ReadRaw(descriptor, ahead_.get(), Capacity);
+    if (count <= 0) return count;
+    begin_ = 0;
+    end_ = static_cast<std::size_t>(count);
+  }
+  const std::size_t given = std::min(size, end_ - begin_);
+  std::memcpy(buffer, ahead_.get() + begin_, given);
+  begin_ += given;
+  return static_cast<long>(given);
+}
+
+}  // namespace standin
