@@ -15,7 +15,7 @@ bool TakesNextArgument(std::string_view option, std::string_view lettersWithValu
   return option.size() == 2 && lettersWithValue.find(option[1]) != std::string_view::npos;
 }
 
-constexpr std::string_view globalLettersWithValue = "Tdesz";
+constexpr std::string_view kGlobalLettersWithValue = "Tdesz";
 
 std::string_view LettersWithValue(std::string_view command) {
   // Everywhere else -a is a flag.
@@ -41,7 +41,7 @@ CVSCall TranslateCVSCall(const std::vector<std::string>& arguments) {
     if (*argument == "-x") continue;
     dryRun = dryRun || *argument == "-n";
     translated.push_back(*argument);
-    if (TakesNextArgument(*argument, globalLettersWithValue) && argument + 1 != end) {
+    if (TakesNextArgument(*argument, kGlobalLettersWithValue) && argument + 1 != end) {
       translated.push_back(*++argument);
     }
   }

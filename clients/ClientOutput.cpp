@@ -14,15 +14,15 @@ void LineEndTranslator::Translate(std::string_view text, std::string& translated
 }
 
 void RevisionTrimmer::Translate(std::string_view text, std::string& translated) {
-  constexpr std::string_view label = "   Working revision:\t";
+  constexpr std::string_view kLabel = "   Working revision:\t";
   for (const char character : text) {
     if (character == '\n') {
       place_ = Place::Label;
       matched_ = 0;
     } else if (place_ == Place::Label) {
-      if (character != label[matched_]) {
+      if (character != kLabel[matched_]) {
         place_ = Place::OtherLine;
-      } else if (++matched_ == label.size()) {
+      } else if (++matched_ == kLabel.size()) {
         place_ = Place::Revision;
       }
     } else if (place_ == Place::Revision && character == '\t') {

@@ -89,12 +89,12 @@ int WaitForEnd(pid_t process) {
   return WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
 }
 
-constexpr int clientNotFound = 127;
-constexpr int clientNotStarted = 126;
+constexpr int kClientNotFound = 127;
+constexpr int kClientNotStarted = 126;
 
 int ReportFailure(const InstalledClient& client, const char* what, int error) {
   std::fprintf(stderr, "%s: %s: %s\n", client.AdapterName.c_str(), what, std::strerror(error));
-  return clientNotStarted;
+  return kClientNotStarted;
 }
 
 }  // namespace
@@ -106,7 +106,7 @@ int RunInstalledClient(const InstalledClient& client, const std::vector<std::str
     std::fprintf(stderr,
                  "%s: the program \"%s\" is not on the PATH; install it (Debian: apt-get install %s)\n",
                  client.AdapterName.c_str(), client.Program.c_str(), client.Package.c_str());
-    return clientNotFound;
+    return kClientNotFound;
   }
   SetMessageLanguage();
 

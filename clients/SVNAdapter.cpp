@@ -21,20 +21,20 @@ std::string Capture(const std::vector<std::string>& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const std::vector<std::string> arguments = TranslateSVNArguments({argv + (argc > 0 ? 1 : 0), argv + argc});
+  const SVNCall call = TranslateSVNCall({argv + (argc > 0 ? 1 : 0), argv + argc});
 
   // The client's --non-interactive does not reach ssh, which would ask for a password on the terminal.
   setenv("SVN_SSH", "ssh -q -o BatchMode=yes --", 0);
 
   LineEndTranslator lineEnds;
   std::string translated;
-  const int status = RunInstalledClient(kClient, arguments, [&](std::string_view piece) {
+  const int status = RunInstalledClient(kClient, call.Arguments, [&](std::string_view piece) {
     translated.clear();
     lineEnds.Translate(piece, translated);
     return WriteToStandardOutput(translated);
   });
   // Before this process ends, and with it the output that the component waits for: it reads the entries
   // next.
-  KeepSVNEntries(arguments, Capture);
+  KeepSVNEntries(call.Paths, Capture);
   return status;
 }

@@ -8,40 +8,40 @@
 namespace {
 
 // Options whose value stands in the argument behind them unless it is attached ("-mTEXT", "--message=TEXT").
-constexpr std::array<std::string_view, 34> optionsWithValue = {"-m",
-                                                               "--message",
-                                                               "-F",
-                                                               "--file",
-                                                               "-r",
-                                                               "--revision",
-                                                               "-c",
-                                                               "--change",
-                                                               "-l",
-                                                               "--limit",
-                                                               "-x",
-                                                               "--extensions",
-                                                               "--targets",
-                                                               "--depth",
-                                                               "--set-depth",
-                                                               "--username",
-                                                               "--password",
-                                                               "--config-dir",
-                                                               "--config-option",
-                                                               "--encoding",
-                                                               "--editor-cmd",
-                                                               "--with-revprop",
-                                                               "--changelist",
-                                                               "--cl",
-                                                               "--accept",
-                                                               "--diff-cmd",
-                                                               "--diff3-cmd",
-                                                               "--native-eol",
-                                                               "--old",
-                                                               "--new",
-                                                               "--show-item",
-                                                               "--strip",
-                                                               "--search",
-                                                               "--trust-server-cert-failures"};
+constexpr std::array<std::string_view, 34> kOptionsWithValue = {"-m",
+                                                                "--message",
+                                                                "-F",
+                                                                "--file",
+                                                                "-r",
+                                                                "--revision",
+                                                                "-c",
+                                                                "--change",
+                                                                "-l",
+                                                                "--limit",
+                                                                "-x",
+                                                                "--extensions",
+                                                                "--targets",
+                                                                "--depth",
+                                                                "--set-depth",
+                                                                "--username",
+                                                                "--password",
+                                                                "--config-dir",
+                                                                "--config-option",
+                                                                "--encoding",
+                                                                "--editor-cmd",
+                                                                "--with-revprop",
+                                                                "--changelist",
+                                                                "--cl",
+                                                                "--accept",
+                                                                "--diff-cmd",
+                                                                "--diff3-cmd",
+                                                                "--native-eol",
+                                                                "--old",
+                                                                "--new",
+                                                                "--show-item",
+                                                                "--strip",
+                                                                "--search",
+                                                                "--trust-server-cert-failures"};
 
 enum class Role { Command, Option, Message, Path, URL };
 
@@ -73,7 +73,7 @@ std::vector<Argument> Parse(const std::vector<std::string>& texts) {
       optionsEnded = *text == "--";
       Argument& option = arguments.emplace_back(IsMessage(*text) ? Role::Message : Role::Option, *text);
       const bool hasValue =
-          std::find(optionsWithValue.begin(), optionsWithValue.end(), *text) != optionsWithValue.end();
+          std::find(kOptionsWithValue.begin(), kOptionsWithValue.end(), *text) != kOptionsWithValue.end();
       if (hasValue && text + 1 != texts.end()) option.Value = *++text;
     } else if (!commandSeen) {
       arguments.emplace_back(Role::Command, *text);
@@ -86,36 +86,45 @@ std::vector<Argument> Parse(const std::vector<std::string>& texts) {
 }
 
 bool IsDeletionOfPaths(const std::vector<Argument>& arguments) {
-  constexpr std::array<std::string_view, 4> names = {"delete", "del", "remove", "rm"};
+  constexpr std::array<std::string_view, 4> kNames = {"delete", "del", "remove", "rm"};
   bool deletes = false;
   bool paths = false;
   for (const Argument& argument : arguments) {
     if (argument.ItsRole == Role::URL) return false;
     if (argument.ItsRole == Role::Path) paths = true;
     if (argument.ItsRole == Role::Command) {
-      deletes = std::find(names.begin(), names.end(), argument.Text) != names.end();
+      deletes = std::find(kNames.begin(), kNames.end(), argument.Text) != kNames.end();
     }
   }
   return deletes && paths;
 }
 
-std::string TranslatePath(std::string path) {
+std::string WithSlashes(std::string path) {
   std::replace(path.begin(), path.end(), '\\', '/');
-  if (path.find('@') != std::string::npos) path += '@';
   return path;
+}
+
+std::string Closed(const std::string& path) {
+  return path.find('@') == std::string::npos ? path : path + '@';
 }
 
 }  // namespace
 
-std::vector<std::string> TranslateSVNArguments(const std::vector<std::string>& arguments) {
+SVNCall TranslateSVNCall(const std::vector<std::string>& arguments) {
   const std::vector<Argument> parsed = Parse(arguments);
   const bool dropMessage = IsDeletionOfPaths(parsed);
 
-  std::vector<std::string> translated = {"--non-interactive"};
+  SVNCall call;
+  call.Arguments = {"--non-interactive"};
   for (const Argument& argument : parsed) {
     if (dropMessage && argument.ItsRole == Role::Message) continue;
-    translated.push_back(argument.ItsRole == Role::Path ? TranslatePath(argument.Text) : argument.Text);
-    if (argument.Value) translated.push_back(*argument.Value);
+    if (argument.ItsRole == Role::Path) {
+      call.Paths.push_back(WithSlashes(argument.Text));
+      call.Arguments.push_back(Closed(call.Paths.back()));
+    } else {
+      call.Arguments.push_back(argument.Text);
+    }
+    if (argument.Value) call.Arguments.push_back(*argument.Value);
   }
-  return translated;
+  return call;
 }

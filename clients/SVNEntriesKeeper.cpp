@@ -1,9 +1,10 @@
 #include "SVNEntriesKeeper.h"
 
+#include <unistd.h>
+
 #include <filesystem>
 #include <fstream>
 #include <system_error>
-#include <utility>
 
 #include "SVNEntriesText.h"
 
@@ -43,14 +44,18 @@ bool IsUpToDate(const fs::path& folder, const fs::path& database) {
   return failed || changed < kept;
 }
 
-// Whole or not at all: the component may read at any time.
+// Whole or not at all: the component may read at any time, and another adapter write.
 void Write(const fs::path& folder, const std::string& text) {
   const fs::path file = EntriesFile(folder);
-  const fs::path fresh = file.string() + ".new";
+  const fs::path fresh = file.string() + "." + std::to_string(getpid());
   std::error_code failed;
   fs::create_directory(file.parent_path(), failed);
-  std::ofstream(fresh, std::ios::binary) << text;
-  fs::rename(fresh, file, failed);
+  std::ofstream stream(fresh, std::ios::binary);
+  stream << text;
+  stream.close();
+  if (stream.good()) fs::rename(fresh, file, failed);
+  // Only there still when it did not become the text.
+  fs::remove(fresh, failed);
 }
 
 void Keep(const fs::path& folder, bool below, const SVNCapture& runSVN) {
@@ -71,13 +76,9 @@ void Keep(const fs::path& folder, bool below, const SVNCapture& runSVN) {
 
 }  // namespace
 
-void KeepSVNEntries(const std::vector<std::string>& arguments, const SVNCapture& runSVN) {
-  bool behindCommand = false;
-  for (std::string argument : arguments) {
-    if (argument.empty() || argument.starts_with('-')) continue;
-    if (!std::exchange(behindCommand, true)) continue;
-    if (argument.ends_with('@')) argument.pop_back();
-    const fs::path path = Absolute(argument);
+void KeepSVNEntries(const std::vector<std::string>& paths, const SVNCapture& runSVN) {
+  for (const std::string& given : paths) {
+    const fs::path path = Absolute(given);
     std::error_code none;
     const bool isFolder = fs::is_directory(path, none);
     if (isFolder || fs::is_directory(path.parent_path(), none)) {

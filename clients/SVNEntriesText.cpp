@@ -3,6 +3,7 @@
 #include <expat.h>
 
 #include <array>
+#include <limits>
 #include <memory>
 #include <utility>
 
@@ -30,11 +31,23 @@ enum Line {
 };
 
 struct Reader {
+  XML_Parser Parser;
   std::vector<SVNEntry> Entries;
   // Names of the open elements, joined by "/", and the text of the innermost.
   std::string Place;
   std::string Text;
 };
+
+// Runs a step of the reading. The parser, which is C, lets nothing through that is thrown: it is stopped.
+template <class Step>
+void Guarded(void* data, Step step) noexcept {
+  Reader& reader = *static_cast<Reader*>(data);
+  try {
+    step(reader);
+  } catch (...) {
+    XML_StopParser(reader.Parser, XML_FALSE);
+  }
+}
 
 std::string Attribute(const char** attributes, std::string_view name) {
   for (; *attributes; attributes += 2) {
@@ -44,45 +57,48 @@ std::string Attribute(const char** attributes, std::string_view name) {
 }
 
 void StartElement(void* data, const char* name, const char** attributes) {
-  Reader& reader = *static_cast<Reader*>(data);
-  reader.Place += std::string("/") + name;
-  reader.Text.clear();
-  if (reader.Place == "/info/entry") {
-    SVNEntry& entry = reader.Entries.emplace_back();
-    entry.Path = Attribute(attributes, "path");
-    entry.Kind = Attribute(attributes, "kind");
-    entry.Revision = Attribute(attributes, "revision");
-  } else if (reader.Place == "/info/entry/commit") {
-    reader.Entries.back().CommitRevision = Attribute(attributes, "revision");
-  }
+  Guarded(data, [=](Reader& reader) {
+    reader.Place += std::string("/") + name;
+    reader.Text.clear();
+    if (reader.Place == "/info/entry") {
+      SVNEntry& entry = reader.Entries.emplace_back();
+      entry.Path = Attribute(attributes, "path");
+      entry.Kind = Attribute(attributes, "kind");
+      entry.Revision = Attribute(attributes, "revision");
+    } else if (reader.Place == "/info/entry/commit") {
+      reader.Entries.back().CommitRevision = Attribute(attributes, "revision");
+    }
+  });
 }
 
+constexpr struct {
+  std::string_view Place;
+  std::string SVNEntry::*Field;
+} kTexts[] = {
+    {"/info/entry/url", &SVNEntry::URL},
+    {"/info/entry/repository/root", &SVNEntry::RepositoryRoot},
+    {"/info/entry/repository/uuid", &SVNEntry::RepositoryUUID},
+    {"/info/entry/wc-info/schedule", &SVNEntry::Schedule},
+    {"/info/entry/wc-info/checksum", &SVNEntry::Checksum},
+    {"/info/entry/commit/date", &SVNEntry::CommitDate},
+    {"/info/entry/commit/author", &SVNEntry::CommitAuthor},
+    {"/info/entry/lock/token", &SVNEntry::LockToken},
+    {"/info/entry/lock/owner", &SVNEntry::LockOwner},
+    {"/info/entry/lock/comment", &SVNEntry::LockComment},
+    {"/info/entry/lock/created", &SVNEntry::LockDate},
+};
+
 void EndElement(void* data, const char* name) {
-  static constexpr struct {
-    std::string_view Place;
-    std::string SVNEntry::*Field;
-  } kTexts[] = {
-      {"/info/entry/url", &SVNEntry::URL},
-      {"/info/entry/repository/root", &SVNEntry::RepositoryRoot},
-      {"/info/entry/repository/uuid", &SVNEntry::RepositoryUUID},
-      {"/info/entry/wc-info/schedule", &SVNEntry::Schedule},
-      {"/info/entry/wc-info/checksum", &SVNEntry::Checksum},
-      {"/info/entry/commit/date", &SVNEntry::CommitDate},
-      {"/info/entry/commit/author", &SVNEntry::CommitAuthor},
-      {"/info/entry/lock/token", &SVNEntry::LockToken},
-      {"/info/entry/lock/owner", &SVNEntry::LockOwner},
-      {"/info/entry/lock/comment", &SVNEntry::LockComment},
-      {"/info/entry/lock/created", &SVNEntry::LockDate},
-  };
-  Reader& reader = *static_cast<Reader*>(data);
-  for (const auto& text : kTexts) {
-    if (reader.Place == text.Place) reader.Entries.back().*text.Field = reader.Text;
-  }
-  reader.Place.resize(reader.Place.size() - std::string_view(name).size() - 1);
+  Guarded(data, [=](Reader& reader) {
+    for (const auto& text : kTexts) {
+      if (reader.Place == text.Place) reader.Entries.back().*text.Field = reader.Text;
+    }
+    reader.Place.resize(reader.Place.size() - std::string_view(name).size() - 1);
+  });
 }
 
 void AppendText(void* data, const char* text, int length) {
-  static_cast<Reader*>(data)->Text.append(text, static_cast<std::size_t>(length));
+  Guarded(data, [=](Reader& reader) { reader.Text.append(text, static_cast<std::size_t>(length)); });
 }
 
 // A value takes one line.
@@ -155,7 +171,10 @@ Lines SubfolderLines(const std::string& name) {
 std::vector<SVNEntry> ParseSVNInfo(std::string_view report) {
   const std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser(XML_ParserCreate(nullptr),
                                                                             &XML_ParserFree);
-  Reader reader;
+  // The parser takes no more at once.
+  constexpr std::size_t kLargest = std::numeric_limits<int>::max();
+  if (!parser || report.size() > kLargest) return {};
+  Reader reader{.Parser = parser.get(), .Entries = {}, .Place = {}, .Text = {}};
   XML_SetUserData(parser.get(), &reader);
   XML_SetElementHandler(parser.get(), StartElement, EndElement);
   XML_SetCharacterDataHandler(parser.get(), AppendText);

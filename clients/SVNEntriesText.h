@@ -27,7 +27,8 @@ struct SVNEntry {
   std::string LockDate;
 };
 
-// The entries of a report of `svn info --xml`, in its order; none when it is not well-formed.
+// The entries of a report of `svn info --xml`, in its order; none when it cannot be read, as when it is not
+// well-formed.
 std::vector<SVNEntry> ParseSVNInfo(std::string_view report);
 
 // The text of each folder's entries file, less its first line, by the folder's path: the folder itself, its

@@ -3,12 +3,11 @@
 #include <CLI/CLI.hpp>
 
 #include "Commands.h"
+#include "ExitStatus.h"
 
 namespace zrkhost {
 
 namespace {
-
-constexpr int kBadCall = 2;
 
 std::string Footer() {
   return "With neither -c nor --commands, commands are read from standard input: with a prompt when it is a\n"
@@ -18,9 +17,10 @@ std::string Footer() {
          "double quotes; # begins a comment):\n" +
          CommandsHelp() +
          "\n"
-         "FILE is a full path and is not made absolute. A relative one reaches the client as it is, which "
-         "runs\n"
-         "in the folder of the product examined last: another file of that name may be removed.\n"
+         "For remove and delete FILE is a full path; a relative one is not made absolute.\n"
+         "delete runs the client in the folder of the product examined last: another file of that name may\n"
+         "be deleted. remove runs it in FILE's own folder, sought from the current one; for a bare name it\n"
+         "starts no client, removes nothing and still gives 0.\n"
          "In Subversion refresh brings the whole tree up to date, whatever PATH says.\n"
          "\n"
          "Exit status: 0 when every command gave result 0 or has none; 1 when a command gave another "
@@ -33,19 +33,7 @@ std::string NotEmpty(const std::string& value) {
   return value.empty() ? "must not be empty" : "";
 }
 
-}  // namespace
-
-std::optional<Options> ParseCommandLine(int argc, char** argv, int& status) {
-  Options options;
-  CLI::App app(
-      "Plays the CAD host for a version-control component library: builds a product structure, loads\n"
-      "the library and calls it.",
-      "zrkhost");
-  // A session file may begin with "/" on every platform.
-  app.allow_windows_style_options(false);
-  app.footer(Footer());
-  app.set_version_flag("--version", "zrkhost " ZRKHOST_VERSION);
-
+void AddOptions(CLI::App& app, Options& options) {
   auto* session =
       app.add_option("SESSION", options.SessionFile, "Session file (JSON) with the product structure")
           ->check(NotEmpty);
@@ -80,6 +68,21 @@ std::optional<Options> ParseCommandLine(int argc, char** argv, int& status) {
                  "Folder to append to PATH; default: that of the client adapters; none: PATH stays as it is")
       ->type_name("DIR|none")
       ->check(NotEmpty);
+}
+
+}  // namespace
+
+std::optional<Options> ParseCommandLine(int argc, char** argv, int& status) {
+  Options options;
+  CLI::App app(
+      "Plays the CAD host for a version-control component library: builds a product structure, loads\n"
+      "the library and calls it.",
+      "zrkhost");
+  // A session file may begin with "/" on every platform.
+  app.allow_windows_style_options(false);
+  app.footer(Footer());
+  app.set_version_flag("--version", "zrkhost " ZRKHOST_VERSION);
+  AddOptions(app, options);
 
   try {
     app.parse(argc, argv);
@@ -88,7 +91,7 @@ std::optional<Options> ParseCommandLine(int argc, char** argv, int& status) {
     }
     return options;
   } catch (const CLI::ParseError& error) {
-    status = app.exit(error) == 0 ? 0 : kBadCall;
+    status = app.exit(error) == 0 ? kAllWell : kNothingRun;
     return std::nullopt;
   }
 }

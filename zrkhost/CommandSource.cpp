@@ -14,7 +14,7 @@ void AddCommand(std::vector<SourcedCommand>& commands, const std::string& source
   try {
     if (auto command = ParseCommand(line)) commands.push_back({source, std::move(*command)});
   } catch (const CallError& error) {
-    throw CallError(source + ": " + Utf8FromNative(error.what()));
+    throw CallError(source + ": " + error.what());
   }
 }
 
@@ -44,7 +44,7 @@ void CheckProducts(const std::vector<SourcedCommand>& commands, const HostSessio
     try {
       CheckProduct(command, session);
     } catch (const CallError& error) {
-      throw CallError(source + ": " + Utf8FromNative(error.what()));
+      throw CallError(source + ": " + error.what());
     }
   }
 }

@@ -2,13 +2,14 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <stdexcept>
 
 #include "CallError.h"
 #include "CommandText.h"
 #include "DisplayText.h"
 #include "Encoding.h"
+#include "Hexadecimal.h"
+#include "ProductFacts.h"
 #include "StatusRecordText.h"
 #include "ZRKICVS.h"
 #include "ZRKICVSManager.h"
@@ -40,16 +41,11 @@ ZRKICVSManager_var RootManager(const Call& call) {
   return InterfaceOf<ZRKICVSManager>(call.Session.Root().Product);
 }
 
-std::string Hexadecimal(std::int32_t result) {
-  std::array<char, 16> text{};
-  std::snprintf(text.data(), text.size(), "0x%08X", static_cast<unsigned int>(result));
-  return text.data();
-}
-
 Outcome WithResult(const Call& call, HRESULT result) {
   Outcome outcome;
   outcome.Result = result;
-  const auto shown = result < 0 ? Hexadecimal(result) : std::to_string(result);
+  const auto shown =
+      result < 0 ? "0x" + Hexadecimal(static_cast<std::uint32_t>(result)) : std::to_string(result);
   outcome.Shown = DisplayText(Utf8FromNative(call.Given.Line)) + ": result " + shown + "\n";
   return outcome;
 }
@@ -190,7 +186,7 @@ std::optional<Command> ParseCommand(const std::string& line) {
   if (words.empty()) return std::nullopt;
   const auto kind = std::find_if(kCommands.begin(), kCommands.end(),
                                  [&](const auto& known) { return words[0].Text == known.Name; });
-  if (kind == kCommands.end()) throw CallError("unknown command \"" + words[0].Text + "\"");
+  if (kind == kCommands.end()) throw CallError("unknown command \"" + Utf8FromNative(words[0].Text) + "\"");
   words.erase(words.begin());
 
   Command command;
@@ -215,7 +211,7 @@ std::optional<Command> ParseCommand(const std::string& line) {
 
 void CheckProduct(const Command& command, const HostSession& session) {
   if (command.ProductPath && !session.Find(*command.ProductPath)) {
-    throw CallError("there is no product \"" + *command.ProductPath + "\" in the tree");
+    throw CallError("there is no product \"" + Utf8FromNative(*command.ProductPath) + "\" in the tree");
   }
 }
 

@@ -1,12 +1,12 @@
 #include "Console.h"
 
-#include <algorithm>
 #include <chrono>
 #include <iostream>
 
 #include "CallError.h"
 #include "DisplayText.h"
 #include "Encoding.h"
+#include "ProductFacts.h"
 #include "StandardInput.h"
 #include "Terminal.h"
 #include "TreePrinter.h"
@@ -37,7 +37,7 @@ void Console::RunPrompt() {
       CheckProduct(*command, session_);
       if (!Run(*command)) return;
     } catch (const CallError& error) {
-      PrintError(Utf8FromNative(error.what()));
+      PrintError(error.what());
     }
   }
 }

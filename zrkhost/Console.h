@@ -40,7 +40,7 @@ private:
   bool failed_ = false;
 };
 
-// On standard error, with the program's name in front and without control characters.
+// On standard error, UTF-8, with the program's name in front and without control characters.
 void PrintError(const std::string& message);
 
 }  // namespace zrkhost

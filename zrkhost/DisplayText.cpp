@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "Hexadecimal.h"
+
 namespace zrkhost {
 
 namespace {
@@ -86,13 +88,6 @@ constexpr std::array<Range, 14> kTwoColumns = {{{0x1100, 0x115F},
 int Columns(char32_t character) {
   if (IsIn(kNoColumn, character)) return 0;
   return IsIn(kTwoColumns, character) ? 2 : 1;
-}
-
-std::string Hexadecimal(char32_t value, int digits) {
-  std::string text;
-  for (int shift = 4 * (digits - 1); shift >= 0; shift -= 4)
-    text += "0123456789abcdef"[(value >> shift) & 0xF];
-  return text;
 }
 
 std::string Escape(char32_t character) {

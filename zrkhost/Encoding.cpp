@@ -1,7 +1,5 @@
 #include "Encoding.h"
 
-#include <cstdint>
-
 #include "text/NativeText.h"
 
 namespace zrkhost {

@@ -12,9 +12,6 @@ namespace zrkhost {
 std::string Utf8FromWide(std::wstring_view text);
 std::string Utf8FromNative(std::string_view text);
 
-// On Linux the bytes as they are, well-formed or not.
-std::string NativeFromUtf8(std::string_view text);
-
 std::filesystem::path PathFromNative(const std::string& text);
 std::filesystem::path PathFromUtf8(std::string_view text);
 // For people to read, and for names that are made from paths.

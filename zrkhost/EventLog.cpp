@@ -1,27 +1,17 @@
 #include "EventLog.h"
 
 #include <iostream>
-#include <sstream>
 #include <utility>
 
 #include "DisplayText.h"
 #include "Encoding.h"
+#include "Hexadecimal.h"
 #include "debug/DebugChannel.h"
 #include "product/ProductModel.h"
 
 namespace zrkhost {
 
 using Json = nlohmann::ordered_json;
-
-namespace {
-
-std::string Hexadecimal(unsigned int value) {
-  std::ostringstream text;
-  text << "0x" << std::hex << value;
-  return text.str();
-}
-
-}  // namespace
 
 EventLog::EventLog(User& user, bool verbose) : user_(user), verbose_(verbose) {
   standin::SetDebugListener([this](const std::wstring& message) { Debug(message); });
@@ -68,7 +58,7 @@ standin::DialogAnswer EventLog::Dialog(const standin::DialogRequest& request) {
   events_.push_back({{"event", "dialog"},
                      {"title", Utf8FromNative(request.Title)},
                      {"message", Utf8FromNative(request.Message)},
-                     {"style", Hexadecimal(request.Style)},
+                     {"style", "0x" + Hexadecimal(request.Style)},
                      {"identifier", Utf8FromNative(request.Identifier)},
                      {"answer", static_cast<int>(answer)}});
   return answer;

@@ -61,7 +61,8 @@ SessionDescription SessionOfFolder(const fs::path& folder, const std::optional<f
   try {
     files = FilesBelow(top);
   } catch (const fs::filesystem_error& failure) {
-    throw CallError(Utf8FromPath(failure.path1()) + ": cannot be read: " + failure.code().message());
+    throw CallError(Utf8FromPath(failure.path1()) +
+                    ": cannot be read: " + Utf8FromNative(failure.code().message()));
   }
 
   SessionDescription session;

@@ -1,58 +1,36 @@
 #include "HostSession.h"
 
 #include <algorithm>
-#include <memory>
+#include <optional>
 #include <unordered_map>
 
 #include "CATICkeParm.h"
-#include "CATILinkableObject.h"
-#include "CATINavigateObject.h"
 #include "CallError.h"
-#include "Encoding.h"
-#include "ZRKAttPackageBaseServices.h"
+#include "ProductFacts.h"
 #include "attributes/AttributeDictionary.h"
 #include "core/HostPath.h"
 #include "dialogs/MessageCatalogs.h"
 #include "dialogs/UserInterface.h"
+#include "text/NativeText.h"
 
 namespace zrkhost {
 
+using standin::NativeFromUtf8;
+
 namespace {
-
-constexpr const char* kPackage = "ZRKCVS";
-
-ZRKIAttClass_var AttributeClassOfSession() {
-  const ZRKIAttDictionary_var dictionary = ZRKAttPackageBaseServices::GetDicoLookUp();
-  return dictionary ? ZRKIAttClass_var(dictionary->LookUpClass(kPackage)) : nullptr;
-}
-
-ZRKIAttInstance_var InstanceOf(const CATBaseUnknown_var& product, const ZRKIAttClass_var& attributeClass) {
-  const ZRKIAttExtendable_var extendable(product);
-  return extendable && attributeClass ? ZRKIAttInstance_var(extendable->FindInstance(attributeClass))
-                                      : nullptr;
-}
 
 // Nothing happens to a product that cannot carry an instance.
 void StartWith(const CATBaseUnknown_var& product, const AttributeValues& values) {
   const auto attributeClass = AttributeClassOfSession();
   const ZRKIAttExtendable_var extendable(product);
   if (!attributeClass || !extendable) return;
-  if (!InstanceOf(product, attributeClass)) extendable->AddInstance(attributeClass, nullptr);
-  const auto instance = InstanceOf(product, attributeClass);
+  if (!AttributeInstanceOf(product)) extendable->AddInstance(attributeClass, nullptr);
+  const auto instance = AttributeInstanceOf(product);
   if (!instance) return;
   for (const auto& [name, value] : values) {
     const CATICkeParm_var parameter(instance->GetParameter(NativeFromUtf8(name).c_str()));
     if (parameter) parameter->Valuate(NativeFromUtf8(value).c_str());
   }
-}
-
-std::vector<CATBaseUnknown_var> ChildrenOf(const CATBaseUnknown_var& product) {
-  std::vector<CATBaseUnknown_var> children;
-  const CATINavigateObject_var node(product);
-  if (!node) return children;
-  const std::unique_ptr<CATListValCATBaseUnknown_var> list(node->GetChildren());
-  for (int i = 1; list && i <= list->Size(); ++i) children.push_back((*list)[i]);
-  return children;
 }
 
 }  // namespace
@@ -86,7 +64,7 @@ void HostSession::InstallAttributes(const SessionDescription& description) {
   if (description.Class) {
     parameters_ = description.Class->Parameters;
     standin::AttributeClassDescription attributeClass;
-    attributeClass.Package = kPackage;
+    attributeClass.Package = kAttributePackage;
     attributeClass.Modifiable = description.Class->Modifiable;
     for (const auto& name : parameters_) attributeClass.Parameters.push_back(NativeFromUtf8(name));
     classes.push_back(std::move(attributeClass));
@@ -182,30 +160,6 @@ const Place* HostSession::Find(std::string_view path) const {
     std::reverse(candidates.begin() + firstNew, candidates.end());
   }
   return nullptr;
-}
-
-CATIProduct_var ReferenceOf(const CATBaseUnknown_var& product) {
-  const CATIProduct_var node(product);
-  return node ? node->GetReferenceProduct() : nullptr;
-}
-
-std::optional<std::string> DocumentOf(const CATBaseUnknown_var& product) {
-  const CATILinkableObject_var linkable(ReferenceOf(product));
-  const CATDocument_var document = linkable ? linkable->GetDocument() : nullptr;
-  if (!document) return std::nullopt;
-  return document->StorageName().ConvertToChar();
-}
-
-std::optional<AttributeValues> AttributesOf(const CATBaseUnknown_var& product) {
-  const auto instance = InstanceOf(product, AttributeClassOfSession());
-  if (!instance) return std::nullopt;
-  AttributeValues values;
-  for (const auto& name : standin::ParameterNames(instance)) {
-    const CATICkeParm_var parameter(instance->GetParameter(name.c_str()));
-    values.emplace_back(Utf8FromNative(name),
-                        parameter ? Utf8FromNative(parameter->AsText().ConvertToChar()) : std::string());
-  }
-  return values;
 }
 
 }  // namespace zrkhost

@@ -1,14 +1,11 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
-#include "CATIProduct.h"
+#include "CATBaseUnknown.h"
 #include "SessionDescription.h"
-#include "ZRKIAttributes.h"
 #include "product/ProductModel.h"
 
 namespace zrkhost {
@@ -51,12 +48,5 @@ private:
   std::vector<Place> places_;
   std::vector<std::string> parameters_;
 };
-
-// The reference product of a product; null when it is not loaded.
-CATIProduct_var ReferenceOf(const CATBaseUnknown_var& product);
-// Full path of the product's document in the host's form; absent when it has none.
-std::optional<std::string> DocumentOf(const CATBaseUnknown_var& product);
-// Every parameter of the product's "ZRKCVS" instance with its value, UTF-8; absent when it has no instance.
-std::optional<AttributeValues> AttributesOf(const CATBaseUnknown_var& product);
 
 }  // namespace zrkhost

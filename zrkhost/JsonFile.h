@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
@@ -40,12 +41,11 @@ public:
   bool Has(const std::string& key) const;
   JsonNode operator[](const std::string& key) const;
 
-  // The place of a key that may be missing.
-  JsonNode At(const std::string& key) const;
-
 private:
   JsonNode(const nlohmann::json& value, std::string fileName, std::string pointer);
   void Expect(bool right, const char* type) const;
+  // The place of a key that may be missing.
+  JsonNode At(const std::string& key) const;
 
   const nlohmann::json* value_;
   std::string fileName_;

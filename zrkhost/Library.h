@@ -9,7 +9,7 @@ namespace zrkhost {
 struct LoadedLibrary {
   // Null when it could not be loaded.
   void* Handle = nullptr;
-  // Why not, in the system's words.
+  // Why not, in the system's words and the native encoding.
   std::string Error;
 };
 

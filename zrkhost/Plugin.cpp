@@ -1,6 +1,7 @@
 #include "Plugin.h"
 
 #include <algorithm>
+#include <type_traits>
 
 #include "CallError.h"
 #include "Encoding.h"
@@ -17,7 +18,7 @@ Plugin::Plugin(const fs::path& file) {
   std::error_code error;
   if (!fs::exists(file, error)) fail("there is no such component library");
   const auto library = LoadSharedLibrary(fs::absolute(file));
-  if (!library.Handle) fail("cannot be loaded as a component library: " + library.Error);
+  if (!library.Handle) fail("cannot be loaded as a component library: " + Utf8FromNative(library.Error));
 
   const auto bind = [&](auto& function, const char* name) {
     function =

@@ -2,6 +2,7 @@
 
 #include "CallError.h"
 #include "Encoding.h"
+#include "ProductFacts.h"
 
 namespace zrkhost {
 

@@ -7,6 +7,7 @@
 #include "Console.h"
 #include "Encoding.h"
 #include "EventLog.h"
+#include "ExitStatus.h"
 #include "FolderSession.h"
 #include "HostSession.h"
 #include "OutputCapture.h"
@@ -20,10 +21,6 @@
 namespace {
 
 using namespace zrkhost;
-
-constexpr int kAllWell = 0;
-constexpr int kCommandFailed = 1;
-constexpr int kNothingRun = 2;
 
 SessionDescription Describe(const Options& options) {
   if (options.SessionFile) return ReadSessionFile(PathFromNative(*options.SessionFile));
@@ -86,7 +83,7 @@ int Run(const Options& options) {
 
   bool written = true;
   if (report && !report->Write(session)) {
-    PrintError(*options.Report + ": the report cannot be written");
+    PrintError(Utf8FromNative(*options.Report) + ": the report cannot be written");
     written = false;
   }
   output.Forward();

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "CallError.h"
+#include "Encoding.h"
 
 namespace {
 
@@ -66,6 +67,15 @@ TEST(Commands, MustBeKnown) {
     EXPECT_THAT(error.what(), HasSubstr("edite"));
   }
   EXPECT_THROW(ParseCommand("Edit"), CallError);
+}
+
+TEST(Commands, AreNamedInUtf8WhenTheyAreNotKnown) {
+  try {
+    ParseCommand("\xff");
+    FAIL();
+  } catch (const CallError& error) {
+    EXPECT_EQ(error.what(), "unknown command \"" + zrkhost::Utf8FromNative("\xff") + "\"");
+  }
 }
 
 TEST(Commands, AreAllExplained) {

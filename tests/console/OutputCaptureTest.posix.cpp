@@ -1,13 +1,17 @@
 #include "OutputCapture.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <cstdio>
 #include <cwchar>
 #include <iostream>
+#include <system_error>
 
 #include "support/CapturedOutput.h"
+#include "support/HandleCount.h"
 
 namespace {
 
@@ -66,6 +70,21 @@ TEST(OutputCapture, GivesStandardOutputBack) {
   { zrkhost::OutputCapture capture; }
   std::cout << "after" << std::flush;
   EXPECT_EQ(real.Bytes(), "after");
+}
+
+TEST(OutputCapture, LeavesNothingOpenWhereItCannotBegin) {
+  const int before = CountOpenHandles();
+  const int next = fcntl(STDOUT_FILENO, F_DUPFD, 3);
+  close(next);
+  rlimit usual{};
+  ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &usual), 0);
+  // Room for one descriptor; two are needed.
+  rlimit tight = usual;
+  tight.rlim_cur = static_cast<rlim_t>(next) + 1;
+  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &tight), 0);
+  EXPECT_THROW(zrkhost::OutputCapture(), std::system_error);
+  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &usual), 0);
+  EXPECT_EQ(CountOpenHandles(), before);
 }
 
 }  // namespace

@@ -6,9 +6,10 @@
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 std::vector<std::string> Translated(const std::vector<std::string>& arguments) {
-  return TranslateSVNArguments(arguments);
+  return TranslateSVNCall(arguments).Arguments;
 }
 
 TEST(SVNArguments, AskForNothingInteractively) {
@@ -63,6 +64,17 @@ TEST(SVNArguments, TakeEverythingBehindTwoHyphensForPaths) {
 
 TEST(SVNArguments, StandAnOptionWithoutItsValue) {
   EXPECT_THAT(Translated({"lock", "-m"}), ElementsAre("--non-interactive", "lock", "-m"));
+}
+
+TEST(SVNArguments, TellThePathsWithoutTheSignThatClosesThem) {
+  EXPECT_THAT(TranslateSVNCall({"status", "-v", "a\\b@c", "d@", "svn://host/e"}).Paths,
+              ElementsAre("a/b@c", "d@"));
+}
+
+TEST(SVNArguments, TellNeitherTheCommandNorOptionsNorTheirValuesForPaths) {
+  EXPECT_THAT(TranslateSVNCall({"--config-dir", "a", "lock", "-m", "note", "--force", "file"}).Paths,
+              ElementsAre("file"));
+  EXPECT_THAT(TranslateSVNCall({"status", "-v", "-u", "--xml"}).Paths, IsEmpty());
 }
 
 }  // namespace

@@ -30,8 +30,8 @@ protected:
     repository_.Checkout(copy_);
   }
 
-  void Keep(const std::string& command, const fs::path& path) {
-    KeepSVNEntries({"--non-interactive", command, "-v", path.string()}, [&](const auto& arguments) {
+  void Keep(const fs::path& path) {
+    KeepSVNEntries({path.string()}, [&](const auto& arguments) {
       runs_.push_back(arguments);
       return repository_.Run(arguments);
     });
@@ -56,7 +56,7 @@ protected:
 };
 
 TEST_F(SVNEntriesKeeper, KeepsTheTextsOfAllFoldersBelowAFolder) {
-  Keep("status", copy_);
+  Keep(copy_);
   EXPECT_THAT(runs_, SizeIs(1));
   EXPECT_THAT(Entries(""), HasSubstr("\na.CATPart\nfile\n"));
   EXPECT_THAT(Entries("größe sub"), HasSubstr("\nb c.CATPart\nfile\n"));
@@ -64,54 +64,54 @@ TEST_F(SVNEntriesKeeper, KeepsTheTextsOfAllFoldersBelowAFolder) {
 }
 
 TEST_F(SVNEntriesKeeper, KeepsTheTextOfTheFolderOfAFileOnly) {
-  Keep("status", sub_ / "b c.CATPart");
+  Keep(sub_ / "b c.CATPart");
   EXPECT_THAT(Entries("größe sub"), HasSubstr("\nb c.CATPart\nfile\n"));
   EXPECT_FALSE(fs::exists(EntriesFile(sub_ / "tief")));
   EXPECT_THAT(Entries(""), Not(HasSubstr("a.CATPart")));
 }
 
-TEST_F(SVNEntriesKeeper, TakesTheClosingAtSignForNoPartOfThePath) {
-  Keep("status", sub_ / "d@e.CATPart@");
+TEST_F(SVNEntriesKeeper, KeepsTheTextOfTheFolderOfAFileWithAnAtSignInItsName) {
+  Keep(sub_ / "d@e.CATPart");
   EXPECT_THAT(Entries("größe sub"), HasSubstr("\nd@e.CATPart\nfile\n"));
 }
 
 TEST_F(SVNEntriesKeeper, KeepsTheTextsOfAFolderWithAnAtSignInItsName) {
   repository_.Run({"mkdir", "--parents", (copy_ / "g@h/i").string() + "@"});
-  Keep("status", (copy_ / "g@h").string() + "@");
+  Keep(copy_ / "g@h");
   EXPECT_TRUE(fs::exists(EntriesFile(copy_ / "g@h/i")));
 }
 
 TEST_F(SVNEntriesKeeper, AsksNothingWhileTheDatabaseIsTheSame) {
   LetTimePass();
-  Keep("status", sub_ / "b c.CATPart");
+  Keep(sub_ / "b c.CATPart");
   ASSERT_THAT(runs_, SizeIs(1));
-  Keep("status", sub_ / "b c.CATPart");
-  Keep("status", sub_ / "d@e.CATPart@");
+  Keep(sub_ / "b c.CATPart");
+  Keep(sub_ / "d@e.CATPart");
   EXPECT_THAT(runs_, SizeIs(1));
   repository_.Lock(sub_ / "b c.CATPart", "anna");
-  Keep("status", sub_ / "b c.CATPart");
+  Keep(sub_ / "b c.CATPart");
   EXPECT_THAT(runs_, SizeIs(2));
   EXPECT_THAT(Entries("größe sub"), HasSubstr("opaquelocktoken:"));
 }
 
 TEST_F(SVNEntriesKeeper, AsksAgainWhenTheDatabaseMayHaveChangedSince) {
-  Keep("status", sub_ / "b c.CATPart");
+  Keep(sub_ / "b c.CATPart");
   fs::last_write_time(EntriesFile(sub_), fs::last_write_time(copy_ / ".svn/wc.db"));
-  Keep("status", sub_ / "b c.CATPart");
+  Keep(sub_ / "b c.CATPart");
   EXPECT_THAT(runs_, SizeIs(2));
 }
 
 TEST_F(SVNEntriesKeeper, FollowsAFileThatHasGone) {
-  Keep("status", copy_);
+  Keep(copy_);
   fs::remove(sub_ / "b c.CATPart");
-  Keep("status", sub_ / "b c.CATPart");
+  Keep(sub_ / "b c.CATPart");
   EXPECT_THAT(Entries("größe sub"), HasSubstr("\nb c.CATPart\nfile\n"));
 }
 
 TEST_F(SVNEntriesKeeper, LeavesTheTextWhereTheClientTellsNothing) {
-  Keep("status", copy_);
+  Keep(copy_);
   const std::string before = Entries("größe sub");
-  KeepSVNEntries({"status", copy_.string()}, [](const auto&) { return std::string("svn: E155037"); });
+  KeepSVNEntries({copy_.string()}, [](const auto&) { return std::string("svn: E155037"); });
   EXPECT_EQ(Entries("größe sub"), before);
 }
 
@@ -134,23 +134,26 @@ TEST_F(SVNEntriesKeeper, KeepsTheTextWhereverTheAdapterRuns) {
 
 TEST_F(SVNEntriesKeeper, DoesNothingOutsideAWorkingCopy) {
   WriteFile(folder_ / "outside/a.CATPart", "a\n");
-  Keep("status", folder_ / "outside/a.CATPart");
-  Keep("status", folder_ / "outside");
-  Keep("status", folder_ / "gone/a.CATPart");
+  Keep(folder_ / "outside/a.CATPart");
+  Keep(folder_ / "outside");
+  Keep(folder_ / "gone/a.CATPart");
   EXPECT_THAT(runs_, IsEmpty());
   EXPECT_FALSE(fs::exists(folder_ / "outside/.svn"));
 }
 
-TEST_F(SVNEntriesKeeper, TakesNeitherTheCommandNorOptionsForPaths) {
-  KeepSVNEntries({"--non-interactive", "status", "-v", "-u", "--xml"}, [&](const auto& arguments) {
-    runs_.push_back(arguments);
-    return std::string();
-  });
-  EXPECT_THAT(runs_, IsEmpty());
+// A limit of no bytes stands for a full disk.
+TEST_F(SVNEntriesKeeper, LeavesTheTextWhereTheDiskTakesNoOther) {
+  Keep(copy_);
+  const std::string before = Entries("größe sub");
+  repository_.Lock(sub_ / "b c.CATPart", "anna");
+  const std::string adapter = (ExecutableFolder() / "clients/svn.exe").string();
+  RunCommand({"sh", "-c", "trap '' XFSZ; ulimit -f 0; exec \"$@\"", "sh", adapter, "status", sub_.string()});
+  EXPECT_EQ(Entries("größe sub"), before);
+  for (const fs::path& left : fs::directory_iterator(sub_ / ".svn")) EXPECT_EQ(left.filename(), "entries");
 }
 
 TEST_F(SVNEntriesKeeper, LeavesTheWorkingCopyAsTheClientKnowsIt) {
-  Keep("status", copy_);
+  Keep(copy_);
   EXPECT_EQ(Status(), "");
 
   const SVNRepository& repository = repository_;
@@ -168,7 +171,7 @@ TEST_F(SVNEntriesKeeper, LeavesTheWorkingCopyAsTheClientKnowsIt) {
 }
 
 TEST_F(SVNEntriesKeeper, DoesNotKeepTheClientFromDeletingAFolder) {
-  Keep("status", copy_);
+  Keep(copy_);
   repository_.Run({"delete", (sub_ / "tief").string()});
   EXPECT_EQ(Status(), "D       " + (sub_ / "tief").string() + "\n");
   EXPECT_FALSE(fs::exists(sub_ / "tief"));
