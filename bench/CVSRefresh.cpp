@@ -1,6 +1,7 @@
 // A whole refresh with the real CVS client, and the same client commands run bare from a shell.
 
 #include <cstdlib>
+#include <map>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -41,16 +42,12 @@ std::string ShellScript(const std::vector<standin::Launch>& launches, const std:
   return script;
 }
 
-}  // namespace
-
-Measurements MeasureCVSRefresh() {
-  constexpr int kRounds = 5;
-  const Session session;
-  const TemporaryFolder folder;
-  const CVSRepository repository(folder / "repository");
+// A working copy of kFiles files, and the product of each: "car" is the root, all others are its children.
+Assembly CheckOutAssembly(const TemporaryFolder& folder) {
   std::map<std::string, std::string> files;
   files["car.CATProduct"] = "car\n";
   for (int file = 1; file < kFiles; ++file) files[DocumentName(file)] = "part\n";
+  const CVSRepository repository(folder / "repository");
   repository.Import("car", files);
   repository.Checkout("car", folder.Path());
 
@@ -60,17 +57,30 @@ Measurements MeasureCVSRefresh() {
     const std::string name = "part" + std::to_string(file);
     assembly.Add(name, "car/" + DocumentName(file)).Place("car", name, name);
   }
+  return assembly;
+}
+
+// The client's launches in a refresh of the assembly.
+std::vector<standin::Launch> LaunchesOfRefresh(const Assembly& assembly) {
+  const CATBaseUnknown_var root = assembly.At("car");
+  const Launches recorded;
+  ZRKICVSManager_var(root)->RefreshStatus(root);
+  const auto attributes = ReadStatusAttributes(assembly.At("car/part1"));
+  if (!attributes || attributes->Revision.empty()) throw std::runtime_error("the refresh wrote nothing");
+  return recorded.All();
+}
+
+}  // namespace
+
+Measurements MeasureCVSRefresh() {
+  constexpr int kRounds = 5;
+  const Session session;
+  const TemporaryFolder folder;
+  const Assembly assembly = CheckOutAssembly(folder);
   const EnvironmentVariable path("PATH", std::string(std::getenv("PATH")) + ":" + CLIENTS_FOLDER);
   const CATBaseUnknown_var root = assembly.At("car");
   const ZRKICVSManager_var manager(root);
-  std::vector<standin::Launch> launches;
-  {
-    const Launches recorded;
-    manager->RefreshStatus(root);
-    launches = recorded.All();
-  }
-  const auto attributes = ReadStatusAttributes(assembly.At("car/part1"));
-  if (!attributes || attributes->Revision.empty()) throw std::runtime_error("the refresh wrote nothing");
+  const std::vector<standin::Launch> launches = LaunchesOfRefresh(assembly);
 
   const auto bare = [&](const std::string& name, const std::string& target) {
     WriteFile(folder / name, ShellScript(launches, folder.Path().string(), target));

@@ -1,9 +1,8 @@
 // Looking up a file in a working copy's entries file.
 
-#include "svn/EntriesFile.h"
+#include "svn/EntriesOnDisk.h"
 
 #include <cstdio>
-#include <fstream>
 #include <memory>
 #include <stdexcept>
 #include <string>

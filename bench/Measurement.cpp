@@ -5,20 +5,10 @@
 #include <cstdio>
 #include <limits>
 
-namespace {
-
-double SecondsOnce(const std::function<void()>& work) {
+double Seconds(const std::function<void()>& work) {
   const auto start = std::chrono::steady_clock::now();
   work();
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-}  // namespace
-
-double Seconds(int rounds, const std::function<void()>& work) {
-  double fastest = std::numeric_limits<double>::infinity();
-  for (int round = 0; round < rounds; ++round) fastest = std::min(fastest, SecondsOnce(work));
-  return fastest;
 }
 
 std::string SideBySide::Detail(const std::string& first, const std::string& second) const {
@@ -31,8 +21,8 @@ SideBySide Compare(int rounds, const std::function<void()>& first, const std::fu
   constexpr double kNone = std::numeric_limits<double>::infinity();
   SideBySide result{kNone, kNone};
   for (int round = 0; round < rounds; ++round) {
-    result.First = std::min(result.First, SecondsOnce(first));
-    result.Second = std::min(result.Second, SecondsOnce(second));
+    result.First = std::min(result.First, Seconds(first));
+    result.Second = std::min(result.Second, Seconds(second));
   }
   return result;
 }

@@ -18,10 +18,11 @@ struct Measurement {
 
 using Measurements = std::vector<Measurement>;
 
-// Seconds that the work takes, the fastest of `rounds`: what is slower was disturbed.
-double Seconds(int rounds, const std::function<void()>& work);
+// Seconds that the work takes, done once.
+double Seconds(const std::function<void()>& work);
 
-// Two works in turns, so that what disturbs one disturbs the other; the fastest of each.
+// Two works in turns, so that what disturbs one disturbs the other; the fastest of each: what is slower was
+// disturbed.
 struct SideBySide {
   double First = 0.0;
   double Second = 0.0;
@@ -36,7 +37,7 @@ Measurement Growth(const std::string& name, int rounds, double factor, const std
                    const std::function<void()>& large, double goal);
 
 // The benchmarks.
-Measurements MeasureOutputCapture();
+Measurements MeasureClientOutput();
 Measurements MeasureStatusReport();
 Measurements MeasureEntriesFile();
 Measurements MeasureXMLReport();

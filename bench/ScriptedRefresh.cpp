@@ -118,9 +118,9 @@ Measurements MeasureScriptedRefresh() {
   SideBySide result{1e9, 1e9};
   for (int round = 0; round < kRounds; ++round) {
     large.Teach(client);
-    result.First = std::min(result.First, Seconds(1, [&] { large.Refresh(); }));
+    result.First = std::min(result.First, Seconds([&] { large.Refresh(); }));
     small.Teach(client);
-    result.Second = std::min(result.Second, Seconds(1, [&] { small.Refresh(); }));
+    result.Second = std::min(result.Second, Seconds([&] { small.Refresh(); }));
   }
   small.Check();
   return {

@@ -1,10 +1,14 @@
-// zrk_bench [--json FILE] [NAME...]: runs the benchmarks named, or all, and prints a table.
+// zrk_bench [--json FILE] [NAME...]: runs the benchmarks named, or all, and prints a table. Ends with 2 when
+// a name is not a benchmark's, and with 1 when a benchmark fails.
 
+#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <fstream>
+#include <iterator>
 #include <nlohmann/json.hpp>
 #include <set>
+#include <stdexcept>
 #include <string>
 
 #include "Measurement.h"
@@ -17,9 +21,21 @@ struct Benchmark {
 };
 
 constexpr Benchmark kBenchmarks[] = {
-    {"output", MeasureOutputCapture}, {"status", MeasureStatusReport},     {"entries", MeasureEntriesFile},
-    {"xml", MeasureXMLReport},        {"refresh", MeasureScriptedRefresh}, {"cvs", MeasureCVSRefresh},
+    {"output", MeasureClientOutput}, {"status", MeasureStatusReport},     {"entries", MeasureEntriesFile},
+    {"xml", MeasureXMLReport},       {"refresh", MeasureScriptedRefresh}, {"cvs", MeasureCVSRefresh},
 };
+
+bool IsBenchmark(const std::string& name) {
+  return std::any_of(std::begin(kBenchmarks), std::end(kBenchmarks),
+                     [&](const Benchmark& benchmark) { return name == benchmark.Name; });
+}
+
+int RefuseName(const std::string& name) {
+  std::fprintf(stderr, "zrk_bench: no benchmark is called \"%s\"; there are:", name.c_str());
+  for (const Benchmark& benchmark : kBenchmarks) std::fprintf(stderr, " %s", benchmark.Name);
+  std::fputc('\n', stderr);
+  return 2;
+}
 
 void Print(const Measurement& measurement) {
   const std::string goal = measurement.Goal ? std::to_string(*measurement.Goal).substr(0, 4) : "";
@@ -36,7 +52,7 @@ nlohmann::ordered_json ToJson(const Measurement& measurement) {
   return json;
 }
 
-int Run(const std::set<std::string>& names, const std::string& jsonFile) {
+void Run(const std::set<std::string>& names, const std::string& jsonFile) {
   nlohmann::ordered_json all = nlohmann::ordered_json::array();
   std::printf("| Measured | Value | Goal, at most | From |\n|---|---|---|---|\n");
   for (const Benchmark& benchmark : kBenchmarks) {
@@ -46,8 +62,9 @@ int Run(const std::set<std::string>& names, const std::string& jsonFile) {
       all.push_back(ToJson(measurement));
     }
   }
-  if (!jsonFile.empty()) std::ofstream(jsonFile) << all.dump(2) << '\n';
-  return 0;
+  if (jsonFile.empty()) return;
+  std::ofstream file(jsonFile);
+  if (!(file << all.dump(2) << std::endl)) throw std::runtime_error(jsonFile + " cannot be written");
 }
 
 }  // namespace
@@ -59,12 +76,15 @@ int main(int argc, char** argv) {
     const std::string argument = argv[i];
     if (argument == "--json" && i + 1 < argc) {
       jsonFile = argv[++i];
-    } else {
+    } else if (IsBenchmark(argument)) {
       names.insert(argument);
+    } else {
+      return RefuseName(argument);
     }
   }
   try {
-    return Run(names, jsonFile);
+    Run(names, jsonFile);
+    return 0;
   } catch (const std::exception& error) {
     std::fprintf(stderr, "zrk_bench: %s\n", error.what());
     return 1;

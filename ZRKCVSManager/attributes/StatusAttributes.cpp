@@ -48,10 +48,7 @@ std::int32_t WriteFromReports(const StatusSource& source, const CATBaseUnknown_v
 
 // Nothing when the product has no document.
 std::optional<std::int32_t> WriteOne(const StatusSource& source, const CATBaseUnknown_var& product) {
-  const product::ProductDocument document = product::ReachDocument(product);
-  if (document.State == product::DocumentState::NotLinkable) {
-    product::RemoveInstance(product, source.AttributeClass);
-  }
+  const product::ProductDocument document = product::ReachDocumentOrClear(product, source.AttributeClass);
   if (!document.Exists()) return std::nullopt;
   const std::int32_t result = WriteFromReports(source, product, document.Path);
   product::Redraw(product);

@@ -15,11 +15,13 @@ namespace {
 constexpr int kChunkLimit = 32000;
 // A blank and two quotation marks around each path.
 constexpr int kArgumentOverhead = 3;
-// The mode in which the structure below a product can be walked.
+// The structure below a product is there.
 constexpr int kWorkModeDesign = 1;
 
-// The product's document. A product that cannot have one loses its status attributes.
-product::ProductDocument ReachOrClear(const FileArgumentContext& context, const CATBaseUnknown_var& object) {
+// Makes the structure below the product ready to be walked and gives the product's document. A product that
+// cannot have one, or whose reference is not loaded, loses its attributes and is redrawn.
+product::ProductDocument PrepareProduct(const FileArgumentContext& context,
+                                        const CATBaseUnknown_var& object) {
   if (const CATIProduct_var product{object}) CATPrsWorkModeServices::SetWorkMode(product, kWorkModeDesign);
   product::ProductDocument document = product::ReachDocument(object);
   if (document.State == product::DocumentState::NoReference ||
@@ -54,9 +56,13 @@ CATUnicodeString Quoted(const CATUnicodeString& path) {
   return CATUnicodeString("\"") + path + "\"";
 }
 
+CATUnicodeString FileArgument(const CATUnicodeString& documentPath, const CATUnicodeString& sandboxRoot) {
+  return Quoted(RelativePath(documentPath, sandboxRoot));
+}
+
 int AppendCVSFileArgument(const FileArgumentContext& context, const CATBaseUnknown_var& product,
                           CATUnicodeString& tail) {
-  const product::ProductDocument document = ReachOrClear(context, product);
+  const product::ProductDocument document = PrepareProduct(context, product);
   CVSFolders folders;
   if (const auto path = ArgumentPath(context, folders, document.Path)) AppendArgument(*path, tail);
   return 0;
@@ -66,7 +72,7 @@ int CollectCVSFileArguments(const FileArgumentContext& context, const CATBaseUnk
                             CATListValCATUnicodeString& chunks, std::int32_t* chunk) {
   CVSFolders folders;
   product::WalkProductTree(product, [&](const CATBaseUnknown_var& object) {
-    const product::ProductDocument document = ReachOrClear(context, object);
+    const product::ProductDocument document = PrepareProduct(context, object);
     if (const auto path = ArgumentPath(context, folders, document.Path)) {
       if (chunks[*chunk].GetLengthInChar() + path->GetLengthInChar() + kArgumentOverhead >= kChunkLimit) {
         ++*chunk;

@@ -15,6 +15,9 @@ CATUnicodeString RelativePath(const CATUnicodeString& documentPath, const CATUni
 // The path in double quotes.
 CATUnicodeString Quoted(const CATUnicodeString& path);
 
+// The relative path in double quotes.
+CATUnicodeString FileArgument(const CATUnicodeString& documentPath, const CATUnicodeString& sandboxRoot);
+
 struct FileArgumentContext {
   const CATUnicodeString& SandboxRoot;
   // Taken off a product whose reference is not loaded or cannot have a document; such a product is also

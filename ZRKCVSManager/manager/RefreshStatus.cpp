@@ -26,11 +26,7 @@ void ZRKECVSManager::RefreshSVNRoute() {
 }
 
 void ZRKECVSManager::RefreshCVSRoute(const CATISpecObject_var& root) {
-  if (!CheckCVSToolPath()) return;
-  if (!KnowsCVSWorkingCopy()) {
-    if (const CATIProduct_var product{root}) DiscoverWorkingCopy(product);
-  }
-  if (!KnowsCVSWorkingCopy()) return;
+  if (!IsReadyForCVS(CATIProduct_var(root))) return;
   if (!root || !AttributeClass) return;
 
   // The first element stays, also empty: without any file argument the client reports on everything
@@ -52,7 +48,7 @@ void ZRKECVSManager::RefreshCVSRoute(const CATISpecObject_var& root) {
 
 void ZRKECVSManager::RefreshOneFile(const CATUnicodeString& documentPath) {
   CATListValCATUnicodeString batches;
-  batches.Append(CATUnicodeString(" ") + cvs::Quoted(cvs::RelativePath(documentPath, SandboxRoot)));
+  batches.Append(CATUnicodeString(" ") + cvs::FileArgument(documentPath, SandboxRoot));
   RunStatusPasses(batches);
   attributes::WriteStatusAttributes({AttributeClass, StatusBlockTable, EditTable}, this);
 }

@@ -3,7 +3,6 @@
 #include <iostream>
 #include <string>
 
-#include "CATILinkableObject.h"
 #include "ZRKAttPackageBaseServices.h"
 #include "cvs/FileArguments.h"
 #include "cvs/StatusReport.h"
@@ -66,7 +65,7 @@ void ZRKECVSManager::DiscoverWorkingCopy(const CATIProduct_var& product) {
 
 HRESULT ZRKECVSManager::QueryCVSFileStatus(const CATUnicodeString& documentPath, ZRKCVSStatus& record) {
   const CATUnicodeString arguments =
-      CATUnicodeString(" status -v ") + cvs::Quoted(cvs::RelativePath(documentPath, SandboxRoot));
+      CATUnicodeString(" status -v ") + cvs::FileArgument(documentPath, SandboxRoot);
   CATUnicodeString report;
   const tools::RunClock clock;
   RunTool(arguments, SandboxRoot, report);
@@ -79,11 +78,9 @@ bool ZRKECVSManager::KnowsCVSWorkingCopy() const {
   return SandboxRoot.GetLengthInByte() > 0 && CVSRoot.GetLengthInByte() > 0;
 }
 
-bool ZRKECVSManager::IsReadyForCVS() {
+bool ZRKECVSManager::IsReadyForCVS(const CATIProduct_var& product) {
   if (!CheckCVSToolPath()) return false;
-  if (!KnowsCVSWorkingCopy()) {
-    if (const CATIProduct_var own{this}) DiscoverWorkingCopy(own);
-  }
+  if (product && !KnowsCVSWorkingCopy()) DiscoverWorkingCopy(product);
   return KnowsCVSWorkingCopy();
 }
 

@@ -50,9 +50,9 @@ public:
   // Always 0.
   HRESULT QueryCVSFileStatus(const CATUnicodeString& documentPath, ZRKCVSStatus& record);
 
-  // The CVS operations on one file start with this: cvs.exe is known (else the user is told) and so is
-  // the working copy, looked for again when it is not.
-  bool IsReadyForCVS();
+  // The CVS operations start with this: cvs.exe is known (else the user is told) and so is the working copy,
+  // looked for in the tree of the product when it is not.
+  bool IsReadyForCVS(const CATIProduct_var& product);
   // Brings the caches and the attributes of the manager's own product up to date for its one document.
   void RefreshOneFile(const CATUnicodeString& documentPath);
 

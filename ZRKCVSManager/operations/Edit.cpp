@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include <cstdio>
-#include <string_view>
 
 #include "CATMsgCatalog.h"
 #include "cvs/FileArguments.h"
@@ -40,10 +39,10 @@ HRESULT ZRKECVSManager::Edit() {
   const tools::RunScope run(Tools());
   const CATBaseUnknown_var own(this);
   if (IsSVN) return svn::SVNLock(SVN(), own);
-  if (!IsReadyForCVS()) return E_FAIL;
+  if (!IsReadyForCVS(CATIProduct_var(own))) return E_FAIL;
   const product::ProductDocument document = product::ReachDocument(own);
   if (!document.Exists()) return E_FAIL;
-  const CATUnicodeString path = cvs::Quoted(cvs::RelativePath(document.Path, SandboxRoot));
+  const CATUnicodeString path = cvs::FileArgument(document.Path, SandboxRoot);
 
   CATUnicodeString answers;
   RunTool(CATUnicodeString("-n -q update ") + path, SandboxRoot, answers);

@@ -36,7 +36,7 @@ HRESULT ZRKECVSManager::Unedit() {
   const tools::RunScope run(Tools());
   const CATBaseUnknown_var own(this);
   if (IsSVN) return svn::SVNUnlock(SVN(), own);
-  if (!IsReadyForCVS()) return E_FAIL;
+  if (!IsReadyForCVS(CATIProduct_var(own))) return E_FAIL;
   const product::ProductDocument document = product::ReachDocument(own);
   if (!document.Exists()) return E_FAIL;
 
@@ -44,8 +44,8 @@ HRESULT ZRKECVSManager::Unedit() {
   if (!IsTakenForEditing(product::FindInstance(own, AttributeClass))) return E_FAIL;
 
   CATUnicodeString output;
-  RunTool(CATUnicodeString("-q -x unedit ") + cvs::Quoted(cvs::RelativePath(document.Path, SandboxRoot)),
-          SandboxRoot, output);
+  RunTool(CATUnicodeString("-q -x unedit ") + cvs::FileArgument(document.Path, SandboxRoot), SandboxRoot,
+          output);
   if (output.GetLengthInByte() > 0) {
     const std::optional<int> answer = AskUser(output);
     const char* const reply = !answer ? nullptr : *answer == tools::kAnswerYes ? "yes" : "no";

@@ -43,6 +43,13 @@ void WriteStatusValues(const CATBaseUnknown_var& object, const ZRKIAttClass_var&
   SetParameter(instance, "Comment", values.Comment);
 }
 
+ProductDocument ReachDocumentOrClear(const CATBaseUnknown_var& object,
+                                     const ZRKIAttClass_var& attributeClass) {
+  ProductDocument document = ReachDocument(object);
+  if (document.State == DocumentState::NotLinkable) RemoveInstance(object, attributeClass);
+  return document;
+}
+
 void Redraw(const CATBaseUnknown_var& object) {
   if (const CATIRedrawEvent_var event{object}) event->Redraw();
 }

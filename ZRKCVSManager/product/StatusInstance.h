@@ -2,6 +2,7 @@
 
 #include "CATICkeParm.h"
 #include "ZRKIAttributes.h"
+#include "product/ProductDocument.h"
 
 // The attributes that show a product's version-control state: its instance of the class of package
 // "ZRKCVS", found, added and taken off through ZRKIAttExtendable. Objects that cannot carry instances,
@@ -31,6 +32,10 @@ void SetParameter(const ZRKIAttInstance_var& instance, const char* name, const C
 // added when it is missing. Nothing is written when the object can carry none.
 void WriteStatusValues(const CATBaseUnknown_var& object, const ZRKIAttClass_var& attributeClass,
                        const StatusValues& values);
+
+// The object's document. An object that cannot have one loses its instance.
+ProductDocument ReachDocumentOrClear(const CATBaseUnknown_var& object,
+                                     const ZRKIAttClass_var& attributeClass);
 
 void Redraw(const CATBaseUnknown_var& object);
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <new>
-
 #include "CATMetaClass.h"
 #include "shell/Containment.h"
 

@@ -4,7 +4,6 @@
 #include <optional>
 #include <string>
 
-#include "files/TextFile.h"
 #include "text/TextSearch.h"
 
 namespace zrk::svn {
@@ -66,17 +65,6 @@ void ReadEntry(std::string_view entries, std::string_view name, ZRKCVSStatus& re
   record.IsLockedHere = 1;
   const auto fromOwner = SkipLines(*fromToken, 1);
   record.LockOwner = FirstLine(fromOwner.value_or("")).value_or("").c_str();
-}
-
-HRESULT ReadSVNEntry(const char* path, ZRKCVSStatus& record) {
-  const std::string_view whole = path;
-  const std::size_t separator = whole.rfind('\\');
-  const std::string_view folder = whole.substr(0, separator);
-  const std::string_view name = separator == std::string_view::npos ? whole : whole.substr(separator + 1);
-  const auto entries = files::ReadText(std::string(folder) + "\\.svn\\entries");
-  if (!entries) return E_FAIL;
-  ReadEntry(entries->View(), name, record);
-  return S_OK;
 }
 
 }  // namespace zrk::svn

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <windows.h>
-
 #include <string_view>
 
 #include "ZRKCVSStatus.h"
@@ -27,10 +25,5 @@ namespace zrk::svn {
 // (empty when there is no such line). Lines that are missing leave their fields as they were, as does a
 // name that is not found. A last line without line feed does not count.
 void ReadEntry(std::string_view entries, std::string_view name, ZRKCVSStatus& record);
-
-// The same for the file of that full path, from `.svn\entries` in its folder, which is read anew on each
-// call. Folder and name are what stands before and behind the last "\"; without one both are the whole
-// path. E_FAIL when the entries file cannot be opened, else 0.
-HRESULT ReadSVNEntry(const char* path, ZRKCVSStatus& record);
 
 }  // namespace zrk::svn

@@ -5,7 +5,7 @@
 #include "product/ProductDocument.h"
 #include "product/ProductTree.h"
 #include "product/StatusInstance.h"
-#include "svn/EntriesFile.h"
+#include "svn/EntriesOnDisk.h"
 #include "svn/StatusReport.h"
 #include "tools/RunClock.h"
 
@@ -14,15 +14,6 @@ namespace {
 
 constexpr const char* kStatusCommand = "status -v -u";
 constexpr const char* kXMLStatusCommand = "status -v -u --xml";
-
-// The product's document; a product that cannot have one loses its attributes.
-product::ProductDocument ReachOrClear(const SVNContext& context, const CATBaseUnknown_var& product) {
-  product::ProductDocument document = product::ReachDocument(product);
-  if (document.State == product::DocumentState::NotLinkable) {
-    product::RemoveInstance(product, context.AttributeClass);
-  }
-  return document;
-}
 
 CATUnicodeString RunReport(const SVNContext& context, const char* command, const CATUnicodeString& path) {
   CATUnicodeString report;
@@ -81,7 +72,7 @@ void RefreshInTree(const SVNContext& context, const CATBaseUnknown_var& product,
 std::int32_t RefreshSVNStatusTree(const SVNContext& context, const CATBaseUnknown_var& product,
                                   SVNTimes& times) {
   product::WalkProductTree(product, [&](const CATBaseUnknown_var& object) {
-    const product::ProductDocument document = ReachOrClear(context, object);
+    const product::ProductDocument document = product::ReachDocumentOrClear(object, context.AttributeClass);
     if (document.Exists()) RefreshInTree(context, object, document.Path, times);
     return document.Exists();
   });
@@ -89,7 +80,7 @@ std::int32_t RefreshSVNStatusTree(const SVNContext& context, const CATBaseUnknow
 }
 
 std::int32_t RefreshSVNStatus(const SVNContext& context, const CATBaseUnknown_var& product) {
-  const product::ProductDocument document = ReachOrClear(context, product);
+  const product::ProductDocument document = product::ReachDocumentOrClear(product, context.AttributeClass);
   if (!document.Exists()) return 0;
   ZRKCVSStatus record;
   ReadSVNEntry(document.Path.ConvertToChar(), record);

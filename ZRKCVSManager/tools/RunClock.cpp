@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include <ctime>
-#include <string>
 
 #include "CATUnicodeString.h"
 

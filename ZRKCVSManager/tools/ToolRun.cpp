@@ -1,6 +1,7 @@
 #include "tools/ToolRun.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <string>
 #include <string_view>

@@ -2,8 +2,6 @@
 
 #include <windows.h>
 
-#include <cstdint>
-
 #include "CATUnicodeString.h"
 #include "tools/Pipe.h"
 

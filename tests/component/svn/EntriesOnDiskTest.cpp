@@ -9,7 +9,7 @@
 #include "support/Files.h"
 #include "support/HandleCount.h"
 #include "support/TemporaryFolder.h"
-#include "svn/EntriesFile.h"
+#include "svn/EntriesOnDisk.h"
 
 namespace {
 

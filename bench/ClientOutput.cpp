@@ -6,6 +6,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Measurement.h"
@@ -68,7 +69,7 @@ void CaptureWithRead(const ScriptedClient& client, std::size_t megabytes, std::v
 
 }  // namespace
 
-Measurements MeasureOutputCapture() {
+Measurements MeasureClientOutput() {
   constexpr int kRounds = 5;
   ScriptedClient client;
   for (const std::size_t megabytes : {64, 256}) Teach(client, megabytes);
