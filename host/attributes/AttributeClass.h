@@ -23,7 +23,7 @@ private:
   struct StatusPart final : Facet<ZRKIAttStatus> {
     explicit StatusPart(AttributeClass& self) : Facet(self), Self(self) {}
     unsigned char IsModifiable(const CATISpecObject_var& object) override {
-      return object && Self.description_.Modifiable ? 1 : 0;
+      return object ? Self.description_.Modifiable : 0;
     }
     AttributeClass& Self;
   };

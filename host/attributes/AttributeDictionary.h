@@ -11,8 +11,8 @@ namespace standin {
 struct AttributeClassDescription {
   std::string Package;
   std::vector<std::string> Parameters;
-  // What the class answers when it is asked whether an object may be modified.
-  bool Modifiable = true;
+  // What the class answers when it is asked whether an object may be modified: not 0 when it may.
+  unsigned char Modifiable = 1;
 };
 
 // Gives the session an attribute dictionary that knows these classes and no others, in place of what

@@ -13,11 +13,32 @@ namespace standin {
 
 class XmlTreeBuilder {
 public:
-  static void StartElement(void* user, const XML_Char* name, const XML_Char** /*attributes*/) {
+  explicit XmlTreeBuilder(XML_Parser parser) : parser_(parser) {
+    XML_SetUserData(parser, this);
+    XML_SetElementHandler(parser, &StartElement, &EndElement);
+    XML_SetCharacterDataHandler(parser, &Text);
+  }
+
+  XmlTree Tree;
+
+private:
+  // Nothing that is thrown may go through the parser, which is C: it is stopped instead.
+  template <class Step>
+  static void Guarded(void* user, Step step) noexcept {
     auto& builder = *static_cast<XmlTreeBuilder*>(user);
-    auto& tree = builder.Tree;
-    builder.open_.push_back(tree.elements_.size());
-    tree.elements_.push_back({.Name = NativeFromUtf8(name), .TextBegin = tree.text_.size()});
+    try {
+      step(builder);
+    } catch (...) {
+      XML_StopParser(builder.parser_, XML_FALSE);
+    }
+  }
+
+  static void StartElement(void* user, const XML_Char* name, const XML_Char** /*attributes*/) {
+    Guarded(user, [name](XmlTreeBuilder& builder) {
+      auto& tree = builder.Tree;
+      builder.open_.push_back(tree.elements_.size());
+      tree.elements_.push_back({.Name = NativeFromUtf8(name), .TextBegin = tree.text_.size()});
+    });
   }
 
   static void EndElement(void* user, const XML_Char* /*name*/) {
@@ -30,12 +51,12 @@ public:
   }
 
   static void Text(void* user, const XML_Char* text, int length) {
-    static_cast<XmlTreeBuilder*>(user)->Tree.text_.append(text, static_cast<std::size_t>(length));
+    Guarded(user, [=](XmlTreeBuilder& builder) {
+      builder.Tree.text_.append(text, static_cast<std::size_t>(length));
+    });
   }
 
-  XmlTree Tree;
-
-private:
+  XML_Parser parser_;
   // The elements that have begun and not ended, the innermost last.
   std::vector<std::size_t> open_;
 };
@@ -45,10 +66,7 @@ std::optional<XmlTree> XmlTree::Parse(std::string_view text) {
   const std::unique_ptr<std::remove_pointer_t<XML_Parser>, decltype(&XML_ParserFree)> parser(
       XML_ParserCreate(nullptr), &XML_ParserFree);
   if (!parser) return std::nullopt;
-  XmlTreeBuilder builder;
-  XML_SetUserData(parser.get(), &builder);
-  XML_SetElementHandler(parser.get(), &XmlTreeBuilder::StartElement, &XmlTreeBuilder::EndElement);
-  XML_SetCharacterDataHandler(parser.get(), &XmlTreeBuilder::Text);
+  XmlTreeBuilder builder(parser.get());
   // In one piece: given piece by piece, a long token would be looked at anew with each of them.
   if (XML_Parse(parser.get(), text.data(), static_cast<int>(text.size()), XML_TRUE) != XML_STATUS_OK) {
     return std::nullopt;

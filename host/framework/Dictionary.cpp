@@ -39,10 +39,11 @@ std::vector<DictionaryEntry> DictionaryEntries() {
 }  // namespace standin
 
 void CATFillDictionary(CATMetaClass* extension, CATMetaClass* interfaceMeta, CATTieCreator creator,
-                       const char* /*library*/, int flag) {
+                       const char* library, int flag) {
   if (!extension || extension->Kind() != CATMetaClassKind::DataExtension) return;
   if (!interfaceMeta || interfaceMeta->Kind() != CATMetaClassKind::Interface) return;
   standin::LateType& type = standin::LateTypeNamed(extension->LateType());
   if (!type.Bind(interfaceMeta->InterfaceId(), {extension, creator})) return;
-  standin::Entries().push_back({extension->Name(), interfaceMeta->Name(), extension->LateType(), flag});
+  standin::Entries().push_back(
+      {extension->Name(), interfaceMeta->Name(), extension->LateType(), library ? library : "", flag});
 }

@@ -10,6 +10,8 @@ struct DictionaryEntry {
   std::string Extension;
   std::string Interface;
   std::string LateType;
+  // Empty when the library that made the entry named none.
+  std::string Library;
   int Flag = 0;
 };
 

@@ -75,9 +75,9 @@ void CATUnicodeString::ReplaceSubString(const CATUnicodeString& searched,
 void CATUnicodeString::Append(std::string_view text) {
   // A client's report comes in small pieces and may be very long. Each growth copies all of it into memory
   // that the system first has to clear: a long text grows in larger steps than the library's.
-  constexpr std::size_t Long = std::size_t{1} << 20;
+  constexpr std::size_t kLong = std::size_t{1} << 20;
   const std::size_t size = bytes_.size() + text.size();
-  if (size <= Long || size <= bytes_.capacity()) {
+  if (size <= kLong || size <= bytes_.capacity()) {
     bytes_.append(text);
     return;
   }

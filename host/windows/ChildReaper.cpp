@@ -37,6 +37,11 @@ ChildReaper::ChildReaper() : news_(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
   std::thread([this] { Run(); }).detach();
 }
 
+void ChildReaper::MakeRoom() {
+  const std::lock_guard lock(mutex_);
+  if (children_.size() == children_.capacity()) children_.reserve(2 * children_.size() + 1);
+}
+
 void ChildReaper::Watch(pid_t child) {
   const std::lock_guard lock(mutex_);
   children_.push_back({child, FileDescriptor(OpenProcess(child))});
@@ -59,7 +64,7 @@ bool ChildReaper::Collect(const Child& child) {
 }
 
 void ChildReaper::Run() {
-  constexpr int RetryMilliseconds = 50;
+  constexpr int kRetryMilliseconds = 50;
   std::vector<pollfd> awaited;
   for (;;) {
     int timeout = -1;
@@ -71,7 +76,7 @@ void ChildReaper::Run() {
         if (child.Process) {
           awaited.push_back({child.Process.Get(), POLLIN, 0});
         } else {
-          timeout = RetryMilliseconds;
+          timeout = kRetryMilliseconds;
         }
       }
     }

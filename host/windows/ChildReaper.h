@@ -18,7 +18,9 @@ public:
   // the process and is never destroyed: nothing waits for the thread when the process ends.
   static ChildReaper& Instance();
 
-  // Takes charge of a child that was just started.
+  // Memory for one more child; std::bad_alloc when there is none.
+  void MakeRoom();
+  // Takes charge of a child that was just started; there is room for it.
   void Watch(pid_t child);
   // Children in its charge that have not ended.
   int LiveCount();

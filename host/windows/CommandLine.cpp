@@ -5,10 +5,10 @@
 namespace standin {
 namespace {
 
-constexpr std::string_view Separators = " \t";
+constexpr std::string_view kSeparators = " \t";
 
 bool IsSeparator(char character) {
-  return Separators.find(character) != std::string_view::npos;
+  return kSeparators.find(character) != std::string_view::npos;
 }
 
 std::string TakeProgramName(std::string_view& line) {
@@ -59,7 +59,7 @@ std::string TakeArgument(std::string_view& line) {
 std::vector<std::string> SplitCommandLine(std::string_view line) {
   std::vector<std::string> arguments{TakeProgramName(line)};
   for (;;) {
-    line.remove_prefix(std::min(line.find_first_not_of(Separators), line.size()));
+    line.remove_prefix(std::min(line.find_first_not_of(kSeparators), line.size()));
     if (line.empty()) return arguments;
     arguments.push_back(TakeArgument(line));
   }

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <exception>
 #include <limits>
 #include <string>
 #include <string_view>
@@ -40,7 +41,7 @@ std::FILE* OpenBinaryStream(FileDescriptor file) {
 // Stands in the place of fopen in everything that is linked with this library. Modes that write reach
 // the C library's own function; line ends are written as they are.
 // NOLINTNEXTLINE(bugprone-reserved-identifier): the linker gives the name
-extern "C" std::FILE* __wrap_fopen(const char* hostPath, const char* mode) {
+extern "C" std::FILE* __wrap_fopen(const char* hostPath, const char* mode) try {
   const std::string path = standin::FilePath(hostPath).string();
   const std::string_view how = mode;
   const bool onlyReads = how.starts_with('r') && how.find('+') == std::string_view::npos;
@@ -54,6 +55,8 @@ extern "C" std::FILE* __wrap_fopen(const char* hostPath, const char* mode) {
   if (!file) return nullptr;
   const bool binary = how.find('b') != std::string_view::npos;
   return binary ? OpenBinaryStream(std::move(file)) : standin::OpenTextStream(std::move(file));
+} catch (const std::exception&) {
+  return nullptr;
 }
 
 int _stat64i32(const char* path, struct _stat64i32* result) {
@@ -63,7 +66,7 @@ int _stat64i32(const char* path, struct _stat64i32* result) {
   // everything.
   static_assert(S_IRUSR == _S_IREAD && S_IWUSR == _S_IWRITE);
   result->st_mode = static_cast<std::uint16_t>(status.st_mode & (S_IFMT | S_IRWXU));
-  constexpr off_t Largest = std::numeric_limits<std::int32_t>::max();
-  result->st_size = static_cast<std::int32_t>(std::min(status.st_size, Largest));
+  constexpr off_t kLargest = std::numeric_limits<std::int32_t>::max();
+  result->st_size = static_cast<std::int32_t>(std::min(status.st_size, kLargest));
   return 0;
 }

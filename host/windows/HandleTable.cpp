@@ -1,12 +1,14 @@
 #include "windows/HandleTable.h"
 
+#include <algorithm>
+
 namespace standin {
 namespace {
 
 // Handles are multiples of four, as on Windows; the standard ones come first.
-constexpr std::uintptr_t Step = 4;
-constexpr std::uintptr_t FirstStandard = 0x10;
-constexpr std::uintptr_t First = 0x100;
+constexpr std::uintptr_t kStep = 4;
+constexpr std::uintptr_t kFirstStandard = 0x10;
+constexpr std::uintptr_t kFirst = 0x100;
 
 std::uintptr_t Value(HANDLE handle) {
   return reinterpret_cast<std::uintptr_t>(handle);
@@ -23,7 +25,7 @@ HandleTable& HandleTable::Instance() {
   return table;
 }
 
-HandleTable::HandleTable() : next_(First) {
+HandleTable::HandleTable() : next_(kFirst) {
   for (int number = 0; number < 3; ++number) {
     auto object = std::make_shared<KernelObject>();
     object->Descriptor = FileDescriptor(number);
@@ -33,7 +35,7 @@ HandleTable::HandleTable() : next_(First) {
 }
 
 HANDLE HandleTable::StandardHandle(std::uintptr_t descriptor) {
-  return Handle(FirstStandard + descriptor * Step);
+  return Handle(kFirstStandard + descriptor * kStep);
 }
 
 HANDLE HandleTable::Add(FileDescriptor descriptor, bool inheritable) {
@@ -44,7 +46,7 @@ HANDLE HandleTable::Add(FileDescriptor descriptor, bool inheritable) {
   const std::lock_guard lock(mutex_);
   const std::uintptr_t value = next_;
   objects_.emplace(value, std::move(object));
-  next_ += Step;
+  next_ += kStep;
   return Handle(value);
 }
 
@@ -70,6 +72,12 @@ bool HandleTable::Remove(HANDLE handle) {
 int HandleTable::Count() const {
   const std::lock_guard lock(mutex_);
   return static_cast<int>(objects_.size());
+}
+
+int HandleTable::InheritableCount() const {
+  const std::lock_guard lock(mutex_);
+  return static_cast<int>(std::count_if(objects_.begin(), objects_.end(),
+                                        [](const auto& entry) { return entry.second->Inheritable.load(); }));
 }
 
 }  // namespace standin

@@ -8,6 +8,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <utility>
 
 #include "windows/FileDescriptor.h"
 #include "windows/PipeReader.h"
@@ -36,8 +37,9 @@ public:
   std::shared_ptr<KernelObject> Find(HANDLE handle) const;
   // False when no such handle is open. The standard handles belong to the process and stay.
   bool Remove(HANDLE handle);
-  // Without the standard handles.
+  // Both without the standard handles.
   int Count() const;
+  int InheritableCount() const;
 
   // The handle of descriptor 0, 1 or 2.
   static HANDLE StandardHandle(std::uintptr_t descriptor);
@@ -49,6 +51,23 @@ private:
   std::array<std::shared_ptr<KernelObject>, 3> standard_;
   std::map<std::uintptr_t, std::shared_ptr<KernelObject>> objects_;
   std::uintptr_t next_;
+};
+
+// A handle that nobody has yet: it is removed again unless it is released to its owner.
+class NewHandle {
+public:
+  NewHandle(FileDescriptor descriptor, bool inheritable)
+      : handle_(HandleTable::Instance().Add(std::move(descriptor), inheritable)) {}
+  NewHandle(const NewHandle&) = delete;
+  NewHandle& operator=(const NewHandle&) = delete;
+  ~NewHandle() {
+    if (handle_) HandleTable::Instance().Remove(handle_);
+  }
+
+  HANDLE Release() { return std::exchange(handle_, nullptr); }
+
+private:
+  HANDLE handle_;
 };
 
 }  // namespace standin

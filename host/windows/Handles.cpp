@@ -2,6 +2,7 @@
 #include <windows.h>
 
 #include <cerrno>
+#include <new>
 
 #include "windows/HandleTable.h"
 #include "windows/SignalMask.h"
@@ -9,6 +10,7 @@
 
 using standin::FileDescriptor;
 using standin::HandleTable;
+using standin::NewHandle;
 using standin::TakesFault;
 using standin::WindowsCall;
 
@@ -17,9 +19,9 @@ namespace {
 // In a host without standard streams a pipe would get their numbers, and then the standard handles
 // would reach into it.
 FileDescriptor AboveStandard(FileDescriptor descriptor) {
-  constexpr int FirstFree = STDERR_FILENO + 1;
-  if (descriptor.Get() >= FirstFree) return descriptor;
-  return FileDescriptor(fcntl(descriptor.Get(), F_DUPFD_CLOEXEC, FirstFree));
+  constexpr int kFirstFree = STDERR_FILENO + 1;
+  if (descriptor.Get() >= kFirstFree) return descriptor;
+  return FileDescriptor(fcntl(descriptor.Get(), F_DUPFD_CLOEXEC, kFirstFree));
 }
 
 bool CanBeRead(int descriptor) {
@@ -33,7 +35,7 @@ void Store(LPDWORD target, std::size_t value) {
 
 }  // namespace
 
-BOOL CreatePipe(HANDLE* readEnd, HANDLE* writeEnd, LPSECURITY_ATTRIBUTES attributes, DWORD /*size*/) {
+BOOL CreatePipe(HANDLE* readEnd, HANDLE* writeEnd, LPSECURITY_ATTRIBUTES attributes, DWORD /*size*/) try {
   if (TakesFault(WindowsCall::CreatePipe)) return FALSE;
   int ends[2];
   if (pipe2(ends, O_CLOEXEC) != 0) return FALSE;
@@ -42,9 +44,13 @@ BOOL CreatePipe(HANDLE* readEnd, HANDLE* writeEnd, LPSECURITY_ATTRIBUTES attribu
   if (!reading || !writing) return FALSE;
 
   const bool inheritable = attributes && attributes->bInheritHandle;
-  *readEnd = HandleTable::Instance().Add(std::move(reading), inheritable);
-  *writeEnd = HandleTable::Instance().Add(std::move(writing), inheritable);
+  NewHandle newReadEnd(std::move(reading), inheritable);
+  NewHandle newWriteEnd(std::move(writing), inheritable);
+  *readEnd = newReadEnd.Release();
+  *writeEnd = newWriteEnd.Release();
   return TRUE;
+} catch (const std::bad_alloc&) {
+  return FALSE;
 }
 
 BOOL SetHandleInformation(HANDLE handle, DWORD mask, DWORD flags) {

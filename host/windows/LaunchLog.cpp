@@ -22,8 +22,8 @@ void SetLaunchListener(LaunchListener listener) {
 }
 
 void ReportLaunch(const wchar_t* program, const wchar_t* commandLine, const wchar_t* folder,
-                  bool started) noexcept try {
-  slot.Tell({Text(program), Text(commandLine), Text(folder), started});
+                  std::uint32_t creationFlags, bool started) noexcept try {
+  slot.Tell({Text(program), Text(commandLine), Text(folder), creationFlags, started});
 } catch (const std::bad_alloc&) {
   // The launch itself does not depend on being heard of.
 }

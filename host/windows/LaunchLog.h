@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 
@@ -11,6 +12,7 @@ struct Launch {
   std::wstring Program;
   std::wstring CommandLine;
   std::wstring Folder;
+  std::uint32_t CreationFlags = 0;
   bool Started = false;
 };
 

@@ -5,11 +5,12 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <new>
 
 namespace standin {
 namespace {
 
-constexpr std::size_t Capacity = std::size_t{64} * 1024;  // of a pipe
+constexpr std::size_t kCapacity = std::size_t{64} * 1024;  // of a pipe
 
 long ReadRaw(int descriptor, void* buffer, std::size_t size) {
   ssize_t count;
@@ -25,8 +26,9 @@ long PipeReader::Read(int descriptor, void* buffer, std::size_t size, bool share
   const std::lock_guard lock(mutex_);
   if (begin_ == end_) {
     if (shared) return ReadRaw(descriptor, buffer, size);
-    if (!ahead_) ahead_ = std::make_unique_for_overwrite<char[]>(Capacity);
-    const long count = ReadRaw(descriptor, ahead_.get(), Capacity);
+    if (!ahead_) ahead_.reset(new (std::nothrow) char[kCapacity]);
+    if (!ahead_) return -1;
+    const long count = ReadRaw(descriptor, ahead_.get(), kCapacity);
     if (count <= 0) return count;
     begin_ = 0;
     end_ = static_cast<std::size_t>(count);

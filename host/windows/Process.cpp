@@ -21,7 +21,7 @@
 namespace standin {
 namespace {
 
-constexpr int StandardDescriptors = 3;
+constexpr int kStandardDescriptors = 3;
 
 void Check(int error) {
   if (error != 0) throw std::system_error(error, std::generic_category());
@@ -57,9 +57,9 @@ public:
       return;
     }
     int source = object->Descriptor.Get();
-    if (source < StandardDescriptors) {
+    if (source < kStandardDescriptors) {
       // A standard descriptor of the host may be overwritten in the child before its turn comes.
-      FileDescriptor copy(fcntl(source, F_DUPFD_CLOEXEC, StandardDescriptors));
+      FileDescriptor copy(fcntl(source, F_DUPFD_CLOEXEC, kStandardDescriptors));
       if (!copy) Check(errno);
       source = copy.Get();
       copies_.push_back(std::move(copy));
@@ -69,7 +69,7 @@ public:
   }
 
   pid_t Run(const std::string& program, const std::vector<std::string>& arguments) {
-    Check(posix_spawn_file_actions_addclosefrom_np(&actions_, StandardDescriptors));
+    Check(posix_spawn_file_actions_addclosefrom_np(&actions_, kStandardDescriptors));
     sigset_t none;
     sigemptyset(&none);
     const sigset_t brokenPipe = BrokenPipeSignal();
@@ -113,13 +113,17 @@ PROCESS_INFORMATION Start(LPCWSTR application, LPCWSTR commandLine, bool inherit
     start.SetStandardDescriptor(STDERR_FILENO, startup.hStdError, inherits);
   }
 
-  ChildReaper& reaper = ChildReaper::Instance();  // before the child, which must not be left without it
+  // All that can fail comes before the child, which must not be left without a reaper.
+  ChildReaper& reaper = ChildReaper::Instance();
+  reaper.MakeRoom();
+  NewHandle processHandle({}, false);
+  NewHandle threadHandle({}, false);
   const pid_t child = start.Run(program, arguments);
   reaper.Watch(child);
 
   PROCESS_INFORMATION process{};
-  process.hProcess = HandleTable::Instance().Add({}, false);
-  process.hThread = HandleTable::Instance().Add({}, false);
+  process.hProcess = processHandle.Release();
+  process.hThread = threadHandle.Release();
   process.dwProcessId = static_cast<DWORD>(child);
   process.dwThreadId = static_cast<DWORD>(child);
   return process;
@@ -129,7 +133,7 @@ PROCESS_INFORMATION Start(LPCWSTR application, LPCWSTR commandLine, bool inherit
 }  // namespace standin
 
 BOOL CreateProcessW(LPCWSTR application, LPWSTR commandLine, LPSECURITY_ATTRIBUTES /*processAttributes*/,
-                    LPSECURITY_ATTRIBUTES /*threadAttributes*/, BOOL inheritHandles, DWORD /*flags*/,
+                    LPSECURITY_ATTRIBUTES /*threadAttributes*/, BOOL inheritHandles, DWORD flags,
                     LPVOID environment, LPCWSTR folder, LPSTARTUPINFOW startup,
                     LPPROCESS_INFORMATION process) {
   const bool fails = standin::TakesFault(standin::WindowsCall::CreateProcess);
@@ -143,6 +147,6 @@ BOOL CreateProcessW(LPCWSTR application, LPWSTR commandLine, LPSECURITY_ATTRIBUT
       // No such program or folder, not a program, or out of memory or descriptors: no child was started.
     }
   }
-  standin::ReportLaunch(application, commandLine, folder, started);
+  standin::ReportLaunch(application, commandLine, folder, flags, started);
   return started;
 }

@@ -11,9 +11,9 @@
 namespace standin {
 namespace {
 
-constexpr char CtrlZ = 26;
+constexpr char kCtrlZ = 26;
 // Read at a time and looked through while it is still in the processor's cache.
-constexpr std::size_t LargestPiece = std::size_t{128} * 1024;
+constexpr std::size_t kLargestPiece = std::size_t{128} * 1024;
 
 // Turns CR LF into LF in place and gives the new length. A CR at the very end stays.
 std::size_t JoinLineEnds(char* text, std::size_t size) {
@@ -50,7 +50,7 @@ int CloseStream(void* file) {
 
 long TextFile::Read(char* buffer, std::size_t size) {
   if (ended_ || size == 0) return 0;
-  size = std::min(size, LargestPiece);
+  size = std::min(size, kLargestPiece);
   std::size_t count = 0;
   if (ahead_) {
     buffer[count++] = *ahead_;
@@ -61,7 +61,7 @@ long TextFile::Read(char* buffer, std::size_t size) {
     if (result < 0 && count == 0) return result;
     if (result > 0) count += static_cast<std::size_t>(result);
   }
-  if (const void* const end = std::memchr(buffer, CtrlZ, count)) {
+  if (const void* const end = std::memchr(buffer, kCtrlZ, count)) {
     ended_ = true;
     count = static_cast<std::size_t>(static_cast<const char*>(end) - buffer);
   }
@@ -103,7 +103,7 @@ std::FILE* OpenTextStream(FileDescriptor file) {
   if (!text) return nullptr;
   std::FILE* const stream = fopencookie(text.get(), "r", {ReadStream, nullptr, SeekStream, CloseStream});
   if (!stream) return nullptr;
-  setvbuf(stream, text->Buffer(), _IOFBF, TextFile::BufferSize);
+  setvbuf(stream, text->Buffer(), _IOFBF, TextFile::kBufferSize);
   static_cast<void>(text.release());  // closing the stream deletes it
   return stream;
 }

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdio>
 #include <memory>
+#include <new>
 #include <optional>
 
 #include "windows/FileDescriptor.h"
@@ -22,14 +23,15 @@ public:
 
   // Room for the buffer of the stream over it. The C library's own is small, and every filling of it costs
   // a call of the system.
-  static constexpr std::size_t BufferSize = std::size_t{96} * 1024;
+  static constexpr std::size_t kBufferSize = std::size_t{96} * 1024;
+  // Null when there is no memory: the stream then has the library's own.
   char* Buffer() { return buffer_.get(); }
 
 private:
   long ReadRaw(char* buffer, std::size_t size);
 
   FileDescriptor file_;
-  std::unique_ptr<char[]> buffer_ = std::make_unique_for_overwrite<char[]>(BufferSize);
+  std::unique_ptr<char[]> buffer_{new (std::nothrow) char[kBufferSize]};
   std::optional<char> ahead_;  // was read to see whether a CR has its LF
   bool ended_ = false;
 };

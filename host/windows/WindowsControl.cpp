@@ -10,28 +10,32 @@
 namespace standin {
 namespace {
 
-constexpr int NoFault = -1;
+constexpr int kNoFault = -1;
 
 std::mutex mutex;
-std::array<int, 6> successesLeft = {NoFault, NoFault, NoFault, NoFault, NoFault, NoFault};
+std::array<int, 6> successesLeft = {kNoFault, kNoFault, kNoFault, kNoFault, kNoFault, kNoFault};
 static_assert(static_cast<std::size_t>(WindowsCall::CloseHandle) + 1 == successesLeft.size());
 
 }  // namespace
 
 void FailWindowsCall(WindowsCall call, int successes) {
   const std::lock_guard lock(mutex);
-  successesLeft[static_cast<std::size_t>(call)] = successes < 0 ? NoFault : successes;
+  successesLeft[static_cast<std::size_t>(call)] = successes < 0 ? kNoFault : successes;
 }
 
 bool TakesFault(WindowsCall call) {
   const std::lock_guard lock(mutex);
   int& left = successesLeft[static_cast<std::size_t>(call)];
-  if (left == NoFault) return false;
+  if (left == kNoFault) return false;
   return left-- == 0;
 }
 
 int OpenHandleCount() {
   return HandleTable::Instance().Count();
+}
+
+int InheritableHandleCount() {
+  return HandleTable::Instance().InheritableCount();
 }
 
 int LiveChildCount() {

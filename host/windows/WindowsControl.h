@@ -13,6 +13,8 @@ void FailWindowsCall(WindowsCall call, int successes);
 
 // Handles of pipes, processes and threads that are open.
 int OpenHandleCount();
+// Those among them that a child inherits.
+int InheritableHandleCount();
 
 // Child processes started and not ended yet; one that has ended is no longer counted, and leaves no
 // zombie behind.

@@ -4,5 +4,5 @@
 // file descriptors. Compare two counts; one alone says nothing.
 int CountOpenHandles();
 
-// Windows only: those among them that a child process inherits.
+// Those handles among them that a child process inherits.
 int CountInheritableHandles();

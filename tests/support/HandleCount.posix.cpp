@@ -28,3 +28,7 @@ int CountOpenHandles() {
          static_cast<int>(std::count_if(begin(descriptors), end(descriptors),
                                         [](const auto& descriptor) { return !WatchesChildren(descriptor); }));
 }
+
+int CountInheritableHandles() {
+  return standin::InheritableHandleCount();
+}

@@ -8,7 +8,6 @@
 #include <cstddef>
 #include <utility>
 
-#include "support/CreationFlags.h"
 #include "windows/LaunchLog.h"
 #include "windows/WindowsControl.h"
 
@@ -17,7 +16,6 @@ namespace {
 using standin::WindowsCall;
 
 standin::LaunchListener listener;
-DWORD creationFlags = 0;
 // By function: calls that still succeed before the one that fails; negative: none fails.
 std::array<int, 6> successesLeft = {-1, -1, -1, -1, -1, -1};
 
@@ -41,8 +39,7 @@ BOOL WINAPI CreateProcessHere(const wchar_t* program, wchar_t* commandLine, SECU
                               const wchar_t* folder, STARTUPINFOW* startup, PROCESS_INFORMATION* created) {
   static const auto real = Real<decltype(CreateProcessW)>("CreateProcessW");
   // The system may write into the command line.
-  standin::Launch launch{Text(program), Text(commandLine), Text(folder)};
-  creationFlags = flags;
+  standin::Launch launch{Text(program), Text(commandLine), Text(folder), flags};
   launch.Started =
       !MustFail(WindowsCall::CreateProcess) &&
       real(program, commandLine, process, thread, inherit, flags, environment, folder, startup, created) != 0;
@@ -92,10 +89,6 @@ constinit decltype(&SetHandleInformation) __imp_SetHandleInformation = SetHandle
 constinit decltype(&ReadFile) __imp_ReadFile = ReadFileHere;
 constinit decltype(&WriteFile) __imp_WriteFile = WriteFileHere;
 constinit decltype(&CloseHandle) __imp_CloseHandle = CloseHandleHere;
-}
-
-DWORD LastCreationFlags() {
-  return creationFlags;
 }
 
 namespace standin {

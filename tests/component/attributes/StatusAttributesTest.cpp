@@ -6,6 +6,7 @@
 #include "CATICkeParm.h"
 #include "attributes/AttributeDictionary.h"
 #include "component/attributes/AttributeStage.h"
+#include "component/attributes/FlushedOutput.h"
 #include "component/attributes/OutputText.h"
 
 using testing::ElementsAre;
@@ -74,6 +75,14 @@ TEST_F(AProductsStatus, OfAFileTheReportDoesNotKnowIsToldInOneLineAndStays) {
   EXPECT_EQ(OutputText(output), "File " + Folder.Host("proj/part") + " not found!\n");
   EXPECT_EQ(ReadStatusAttributes(Part()), Old);
   EXPECT_THAT(Redrawn.Paths(), ElementsAre("part"));
+}
+
+TEST_F(AProductsStatus, OfAFileTheReportDoesNotKnowIsToldBeforeTheRedrawAndFlushed) {
+  const FlushedOutput output;
+  std::string toldAtRedraw;
+  standin::SetRedrawListener([&](const CATBaseUnknown_var&) { toldAtRedraw = output.Text(); });
+  Write(Part());
+  EXPECT_EQ(toldAtRedraw, "File " + Folder.Host("proj/part") + " not found!\n");
 }
 
 TEST_F(AProductsStatus, OfAFileTheReportDoesNotKnowIsNotMade) {
@@ -192,6 +201,17 @@ TEST_F(AProductsStatus, IsRedrawnOnceWhenItIsWritten) {
   FileBlock("proj/part", "1.5");
   Write(Part());
   EXPECT_THAT(Redrawn.Paths(), ElementsAre("part"));
+}
+
+TEST_F(AProductsStatus, StandsWhenTheProductIsRedrawn) {
+  std::vector<std::optional<StatusAttributes>> drawn;
+  standin::SetRedrawListener(
+      [&](const CATBaseUnknown_var& product) { drawn.push_back(ReadStatusAttributes(product)); });
+  FileBlock("proj/part", "1.5");
+  Write(Part());
+  Blocks[Folder.Host("proj/part")] = "File: part\tStatus: Unknown\n";
+  Write(Part());
+  EXPECT_THAT(drawn, ElementsAre(StatusAttributes{"1.5", "Edit", Tag, ""}, std::nullopt));
 }
 
 TEST_F(AProductsStatus, LeavesOutTheParametersThatTheClassDoesNotHave) {

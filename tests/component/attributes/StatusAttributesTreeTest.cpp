@@ -3,6 +3,7 @@
 
 #include "component/attributes/AttributeStage.h"
 #include "component/attributes/OutputText.h"
+#include "component/manager/AffirmedReference.h"
 #include "component/product/DeepAssembly.h"
 
 using testing::ElementsAre;
@@ -96,6 +97,12 @@ TEST_F(ATreesStatus, GoesOnBehindAProductWithoutItsReference) {
   WriteTree(Products.At("car"));
   EXPECT_EQ(ReadStatusAttributes(Products.At("car/lost")), Old);
   EXPECT_EQ(RevisionOf("car/w"), "1.3");
+}
+
+TEST_F(ATreesStatus, BeginsAtAReferenceWhoseTestAnswersWithAPositiveCode) {
+  WriteTree(AffirmedReference::Of(Products.At("car")));
+  EXPECT_EQ(RevisionOf("car"), "1.1");
+  EXPECT_EQ(RevisionOf("car/a"), "1.2");
 }
 
 TEST_F(ATreesStatus, OfNothingIsNone) {

@@ -24,10 +24,9 @@ public:
     return path;
   }
 
-  // Collects into `chunks` from its last position on. Gives the position reached.
-  int Collect(const CATBaseUnknown_var& root, CATListValCATUnicodeString& chunks) {
+  // Collects into `chunks` from that position on. Gives the position reached.
+  int Collect(const CATBaseUnknown_var& root, CATListValCATUnicodeString& chunks, std::int32_t position) {
     const ZRKIAttClass_var attributeClass(ZRKAttPackageBaseServices::GetDicoLookUp()->LookUpClass("ZRKCVS"));
-    std::int32_t position = chunks.Size();
     Result = zrk::cvs::CollectCVSFileArguments({SandboxRoot, attributeClass}, root, chunks, &position);
     return position;
   }
@@ -36,7 +35,7 @@ public:
   std::vector<std::string> Collected(const CATBaseUnknown_var& root, const std::string& first = "") {
     CATListValCATUnicodeString chunks;
     chunks.Append(first.c_str());
-    Position = Collect(root, chunks);
+    Position = Collect(root, chunks, chunks.Size());
     std::vector<std::string> texts;
     for (int i = 1; i <= chunks.Size(); ++i) texts.emplace_back(chunks[i].ConvertToChar());
     return texts;

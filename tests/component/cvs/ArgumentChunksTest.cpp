@@ -81,9 +81,21 @@ TEST_F(AnArgumentChunk, IsFilledFromThePositionGiven) {
   CATListValCATUnicodeString chunks;
   chunks.Append("first");
   chunks.Append("second");
-  EXPECT_EQ(stage_.Collect(stage_.Tree.At("part"), chunks), 2);
+  EXPECT_EQ(stage_.Collect(stage_.Tree.At("part"), chunks, 2), 2);
   EXPECT_STREQ(chunks[1].ConvertToChar(), "first");
   EXPECT_EQ(chunks[2].ConvertToChar(), "second" + Argument(path));
+}
+
+TEST_F(AnArgumentChunk, IsFollowedByTheOneBehindIt) {
+  const std::string path = stage_.AddWithPathOf(10, "part");
+  CATListValCATUnicodeString chunks;
+  chunks.Append(std::string(32'000, 'x').c_str());
+  chunks.Append("second");
+  chunks.Append("third");
+  EXPECT_EQ(stage_.Collect(stage_.Tree.At("part"), chunks, 1), 2);
+  EXPECT_EQ(chunks[2].ConvertToChar(), "second" + Argument(path));
+  EXPECT_STREQ(chunks[3].ConvertToChar(), "third");
+  EXPECT_EQ(chunks.Size(), 4);
 }
 
 TEST_F(AnArgumentChunk, IsMeasuredWithoutTheWorkingFolder) {

@@ -86,6 +86,20 @@ TEST(EditReportTable, LettersOfDifferentCaseAreDifferentFiles) {
   EXPECT_EQ(Filed("a\tanna\r\nA\tanna\r\n").size(), 2u);
 }
 
+TEST(EditReportTable, AnEmptyLineAtTheStartIsTheWholeReportHoweverLongThatIs) {
+  const std::string report = "\na\t" + std::string(17 << 20, 'x') + "\r\n";
+  const ReportTable table = Filed(report);
+  EXPECT_EQ(table.size(), 2u);
+  EXPECT_EQ(table.at("C:\\w\\\na").size(), report.size());
+}
+
+TEST(EditReportTable, EmptyLinesAreFiledUntilTheyTookTheReportsLengthAnd16MiBMore) {
+  constexpr std::size_t kFlood = 1 << 20;
+  const ReportTable table = Filed(std::string(kFlood, '\n') + "a\tanna\r\n");
+  // Each takes a byte less than the one before; 17 of them fit, and the line that is not empty.
+  EXPECT_EQ(table.size(), 18u);
+}
+
 // Filed as it stands, a megabyte of empty lines would take half a terabyte.
 TEST(EditReportTable, AFloodOfEmptyLinesIsFiledInBoundedMemory) {
   constexpr std::size_t kFlood = 1 << 20;

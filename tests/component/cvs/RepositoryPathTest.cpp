@@ -16,6 +16,7 @@ TEST(RepositoryPath, TheRootFolderStartsAtTheFirstSlashOfTheRoot) {
   EXPECT_EQ(GetRepositoryPath(block, ":fork:/cvs/root"), "a.CATPart");
   EXPECT_EQ(GetRepositoryPath(block, "C:/cvs/root"), "a.CATPart");
   EXPECT_EQ(GetRepositoryPath(block, "host:2401/cvs/root"), "a.CATPart");
+  EXPECT_EQ(GetRepositoryPath("Repository revision:\t1.5\t/other/root/a,v\r\n", "/cvs/root"), "");
 }
 
 TEST(RepositoryPath, IsEmptyWhenTheRootHasNoFolder) {
@@ -37,6 +38,11 @@ TEST(RepositoryPath, IsEmptyWhenTheReportNamesAnotherRootFolder) {
 TEST(RepositoryPath, ARootFolderBeforeTheLabelDoesNotCount) {
   EXPECT_EQ(GetRepositoryPath("/cvs/root/x,v Repository revision:\t1.5\t/cvs/root/y,v\r\n", "/cvs/root"),
             "y");
+}
+
+TEST(RepositoryPath, OfTwoLabelsTheFirstCounts) {
+  EXPECT_EQ(GetRepositoryPath("Repository revision:\t/r/one,v\r\nRepository revision:\t/r/two,v\r\n", "/r"),
+            "one");
 }
 
 TEST(RepositoryPath, TheCharacterBehindTheLabelIsNotSearched) {

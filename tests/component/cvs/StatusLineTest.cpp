@@ -93,6 +93,25 @@ TEST(CVSStatusLine, ALabelMayStandAnywhereInTheLine) {
   EXPECT_EQ(Text(Parsed("cvs said: Working revision:\t2.1\r").WorkingRevision), "2.1");
 }
 
+TEST(CVSStatusLine, TheFileNameStartsRightBehindItsLabel) {
+  EXPECT_EQ(Text(Parsed("File:a\tStatus: b").File), "a\t");
+}
+
+TEST(CVSStatusLine, OfALabelThatStandsTwiceInTheLineTheFirstCounts) {
+  EXPECT_EQ(Text(Parsed("File: a File: b\tStatus: c").File), "aFile:b\t");
+  EXPECT_EQ(Text(Parsed("File: a\tStatus: b Status: c").Status), "b Status: c");
+  EXPECT_EQ(Text(Parsed("Working revision:1Working revision:2\r").WorkingRevision), "1Workingrevision:2");
+  EXPECT_EQ(Text(Parsed("Repository revision:1Repository revision:2\r").RepositoryRevision),
+            "1Repository revision:2");
+  EXPECT_EQ(Text(Parsed("Expansion option:1Expansion option:2\r").ExpansionOption), "1Expansion option:2");
+  EXPECT_EQ(Text(Parsed("Commit Identifier:1Commit Identifier:2\r").CommitIdentifier),
+            "1Commit Identifier:2");
+  EXPECT_EQ(Text(Parsed("Sticky Tag:1Sticky Tag:2\r").StickyTag), "1Sticky Tag:2");
+  EXPECT_EQ(Text(Parsed("Sticky Date:1Sticky Date:2\r").StickyDate), "1Sticky Date:2");
+  EXPECT_EQ(Text(Parsed("Sticky Options:1Sticky Options:2\r").StickyOptions), "1Sticky Options:2");
+  EXPECT_EQ(Text(Parsed("Merge From:1Merge From:2\r").MergeFrom), "1Merge From:2");
+}
+
 TEST(CVSStatusLine, OnlyTheFirstLabelInTheOrderOfTheRecordCounts) {
   // From the last label to the first: each line holds one more that goes before all the others.
   struct Case {

@@ -98,9 +98,10 @@ protected:
     const HRESULT result = operation_.Perform(stage);
     const bool failed = HasFailed(call_, successes, stage);
 
-    ExpectOutcome(stage, result, failed, successes);
     EXPECT_EQ(standin::OpenHandleCount(), 0);
+    // What a client has read stands in its log when it has ended.
     EXPECT_TRUE(AllClientsEnd());
+    ExpectOutcome(stage, result, failed, successes);
     EXPECT_EQ(standin::LiveDialogCount(), 0);
     // An instance that was put onto the product is there to stay: itself and its parts.
     const bool instanceAdded = !shownBefore && stage.Shown();

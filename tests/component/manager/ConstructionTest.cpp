@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "attributes/AttributeDictionary.h"
+#include "component/manager/AffirmedReference.h"
 #include "component/manager/CVSStage.h"
 #include "support/DebugMessages.h"
 #include "support/DialogRecorder.h"
@@ -51,6 +52,12 @@ TEST_F(ANewManager, KnowsNoWorkingCopyWithoutADocument) {
   }
 }
 
+TEST_F(ANewManager, KnowsTheWorkingCopyOfAReferenceWhoseTestAnswersWithAPositiveCode) {
+  Products.Add("car", "proj/car");
+  const CATBaseUnknown_var car = AffirmedReference::Of(Products.At("car"));
+  EXPECT_EQ(Text(ZRKECVSManager(*car).SandboxRoot), SandboxRoot());
+}
+
 TEST_F(ANewManager, OfWhatIsNoProductKnowsNoWorkingCopy) {
   NoProduct object;
   const ZRKECVSManager manager(object);
@@ -74,6 +81,19 @@ TEST_F(ANewManager, HasEmptyTablesAndCounters) {
 TEST_F(ANewManager, KeepsTheStandardOutputOfTheProcess) {
   Products.Add("car", "proj/car");
   EXPECT_EQ(ZRKECVSManager(Product("car")).StandardOutput, GetStdHandle(STD_OUTPUT_HANDLE));
+}
+
+TEST_F(ANewManager, LeavesTheStandardOutputOpenWhenItEnds) {
+  HANDLE read = nullptr;
+  HANDLE output = nullptr;
+  ASSERT_TRUE(CreatePipe(&read, &output, nullptr, 0));
+  Products.Add("car", "proj/car");
+  {
+    ZRKECVSManager manager(Product("car"));
+    manager.StandardOutput = output;
+  }
+  EXPECT_TRUE(CloseHandle(output));
+  CloseHandle(read);
 }
 
 TEST_F(ANewManager, KnowsTheStatusClass) {

@@ -3,6 +3,7 @@
 
 #include "ZRKICVSManager.h"
 #include "attributes/AttributeDictionary.h"
+#include "component/manager/AffirmedReference.h"
 #include "component/manager/CVSStage.h"
 #include "component/product/ProductEvents.h"
 #include "support/DebugMessages.h"
@@ -57,6 +58,12 @@ TEST_F(AQuery, RunsTheClientOnceInTheWorkingFolder) {
 
 TEST_F(AQuery, IsAboutTheProductGivenNotTheManagersOwn) {
   Asked(Products.At("axle"), "car");
+  ASSERT_EQ(Client.Runs().size(), 1u);
+  EXPECT_EQ(Client.Runs()[0].Arguments, Arguments({"status", "-v", "proj\\axle"}));
+}
+
+TEST_F(AQuery, IsAboutAReferenceAlsoWhenItsTestAnswersWithAPositiveCode) {
+  Asked(AffirmedReference::Of(Products.At("axle")));
   ASSERT_EQ(Client.Runs().size(), 1u);
   EXPECT_EQ(Client.Runs()[0].Arguments, Arguments({"status", "-v", "proj\\axle"}));
 }

@@ -63,6 +63,28 @@ TEST_F(ARefreshsWorkingCopy, IsLookedForWhenItsRootAloneIsMissing) {
   EXPECT_EQ(Client.Runs().size(), 2u);
 }
 
+TEST_F(ARefreshsWorkingCopy, IsKeptAsFarAsItIsKnownWhenTheRootTellsNothing) {
+  std::filesystem::remove(Folder / "proj/CVS/Root");
+  ZRKECVSManager manager(Product("car"));
+  manager.SVNWorkingFolder = "\\svn";
+  manager.RefreshStatus(Root("empty"));
+  EXPECT_EQ(Text(manager.SandboxRoot), SandboxRoot());
+  EXPECT_EQ(Text(manager.SVNWorkingFolder), "\\svn");
+  EXPECT_TRUE(Client.Runs().empty());
+
+  manager.SandboxRoot = "";
+  manager.CVSRoot = "/known/root";
+  manager.RefreshStatus(Root("empty"));
+  EXPECT_EQ(Text(manager.CVSRoot), "/known/root");
+}
+
+TEST_F(ARefreshsWorkingCopy, StaysSubversionsWhenTheProductTellsNothing) {
+  ZRKECVSManager manager(Product("car"));
+  manager.IsSVN = true;
+  manager.DiscoverWorkingCopy(Products.At("empty"));
+  EXPECT_TRUE(manager.IsSVN);
+}
+
 TEST_F(ARefreshsWorkingCopy, IsLookedForBeforeTheAttributeClassIsAskedFor) {
   standin::RemoveAttributeDictionary();
   ZRKECVSManager manager(Product("empty"));

@@ -3,6 +3,7 @@
 
 #include "component/manager/CVSStage.h"
 #include "support/CapturedOutput.h"
+#include "windows/LaunchLog.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -71,6 +72,25 @@ TEST_F(TheTables, AreEmptyWhenTheClientSaysNothing) {
   manager.RefreshStatus(Root("car"));
   EXPECT_THAT(manager.StatusBlockTable, IsEmpty());
   EXPECT_THAT(manager.EditTable, IsEmpty());
+}
+
+// Whoever reads them while the client runs finds the blocks gone, and the lines of the refresh before.
+TEST_F(TheTables, AreEmptiedTheBlocksBeforeTheStatusRunsAndTheLinesAfterTheEditHasRun) {
+  const std::string block = StatusBlock("proj/car", "1.1");
+  Client.When("status -v").Out(block);
+  Client.When("-n edit").Out("proj/car\tbert\r\n");
+  ZRKECVSManager manager(Product("car"));
+  manager.StatusBlockTable = {{"old", "block"}};
+  manager.EditTable = {{"old", "line"}};
+  std::vector<std::pair<zrk::cvs::ReportTable, zrk::cvs::ReportTable>> atLaunches;
+  standin::SetLaunchListener(
+      [&](const standin::Launch&) { atLaunches.emplace_back(manager.StatusBlockTable, manager.EditTable); });
+  manager.RefreshStatus(Root("car"));
+  standin::SetLaunchListener({});
+  const auto oldLines = ElementsAre(Pair("old", "line"));
+  EXPECT_THAT(atLaunches, ElementsAre(Pair(IsEmpty(), oldLines),
+                                      Pair(ElementsAre(Pair(Key("proj\\car"), block)), oldLines)));
+  EXPECT_THAT(manager.EditTable, ElementsAre(Pair(Key("proj\\car"), "proj/car\nbert")));
 }
 
 TEST_F(TheTables, HoldNoBlockWithoutItsLabel) {

@@ -4,13 +4,31 @@
 #include <gtest/gtest.h>
 
 #include "CATISpecObject.h"
+#include "component/product/AlteredProduct.h"
 #include "component/product/DeepAssembly.h"
+#include "framework/Facet.h"
 #include "support/Assembly.h"
 
 using testing::ElementsAre;
 using zrk::product::WalkProductTree;
 
 namespace {
+
+class NoNode final : public CATBaseUnknown {};
+
+// A node to navigate from, with one child. No product, and not in the feature tree.
+class ParentOf final : public standin::OneInterface<CATINavigateObject> {
+public:
+  explicit ParentOf(const CATBaseUnknown_var& child) : child_(child) {}
+  CATListValCATBaseUnknown_var* GetChildren() override {
+    auto children = std::make_unique<CATListValCATBaseUnknown_var>();
+    children->Append(child_);
+    return children.release();
+  }
+
+private:
+  CATBaseUnknown_var child_;
+};
 
 class AWalk : public testing::Test {
 protected:
@@ -51,12 +69,28 @@ TEST_F(AWalk, DoesNotGoBelowAProductThatStopsItButOnToTheNext) {
   EXPECT_THAT(Visited(assembly_.At("car"), "car"), ElementsAre("car"));
 }
 
-TEST_F(AWalk, SeesItsProductsAsSpecificationObjects) {
+TEST_F(AWalk, SeesAChildAsASpecificationObject) {
+  assembly_.AddWithoutDocument("car");
+  const CATBaseUnknown_var parent = CATBaseUnknown_var::Adopt(new ParentOf(assembly_.At("car")));
+  EXPECT_THAT(Visited(parent), ElementsAre("", "car"));
+}
+
+TEST_F(AWalk, SeesNothingInPlaceOfAChildThatIsNoSpecificationObject) {
   assembly_.AddWithoutDocument("car").AddWithoutDocument("axle").Place("car", "a", "axle");
-  WalkProductTree(assembly_.At("car"), [](const CATBaseUnknown_var& product) {
-    EXPECT_TRUE(CATISpecObject_var(product));
+  const auto hidden =
+      CATBaseUnknown_var::Adopt(new AlteredProduct(assembly_.At("car"), CATISpecObject::ClassId()));
+  const CATBaseUnknown_var parent = CATBaseUnknown_var::Adopt(new ParentOf(hidden));
+  std::vector<bool> seen;
+  WalkProductTree(parent, [&](const CATBaseUnknown_var& product) {
+    seen.push_back(product != nullptr);
     return true;
   });
+  EXPECT_THAT(seen, ElementsAre(true, false));
+}
+
+TEST_F(AWalk, EndsWhereThereIsNoWayToChildren) {
+  EXPECT_THAT(Visited(nullptr), ElementsAre(""));
+  EXPECT_THAT(Visited(CATBaseUnknown_var::Adopt(new NoNode)), ElementsAre(""));
 }
 
 TEST_F(AWalk, OfADeepTreeCostsNoStack) {

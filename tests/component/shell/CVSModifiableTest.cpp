@@ -29,6 +29,13 @@ TEST_F(CVSModifiable, ThePackageAllowsIt) {
   EXPECT_EQ(OfCar(), 1);
 }
 
+TEST_F(CVSModifiable, IsOneWhateverThePackageAnswersButZero) {
+  standin::InstallAttributeDictionary({{.Package = "ZRKCVS", .Parameters = {"Status"}, .Modifiable = 2}});
+  EXPECT_EQ(OfCar(), 1);
+  standin::InstallAttributeDictionary({{.Package = "ZRKCVS", .Parameters = {"Status"}, .Modifiable = 255}});
+  EXPECT_EQ(OfCar(), 1);
+}
+
 TEST_F(CVSModifiable, ThePackageForbidsIt) {
   standin::InstallAttributeDictionary({{.Package = "ZRKCVS", .Parameters = {"Status"}, .Modifiable = false}});
   EXPECT_EQ(OfCar(), 0);

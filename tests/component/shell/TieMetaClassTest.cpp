@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <new>
 
 #include "CATTie.h"
 #include "component/shell/TieParts.h"
@@ -43,16 +44,26 @@ struct ExtensionKind {
   static CATMetaClass* MetaObject() { return TestExtension::MetaObject(); }
 };
 
+// Of this one there is no meta-object, for lack of memory.
+struct ThrowingKind {
+  static CATMetaClass* MetaObject() { throw std::bad_alloc(); }
+};
+
 template <class Interface>
 class TestTie : public CATTie<Interface> {
 public:
   using CATTie<Interface>::CATTie;
 };
 
+template <class Kind, class Interface>
+CATHandle<Interface> MakeTieOfKind(CATBaseUnknown& extension) {
+  return CATHandle<Interface>::Adopt(
+      static_cast<Interface*>(zrk::shell::CreateTie<TestTie<Interface>, Interface, Kind>(&extension)));
+}
+
 template <int Number, class Interface = TestInterface>
 CATHandle<Interface> MakeTie(CATBaseUnknown& extension) {
-  return CATHandle<Interface>::Adopt(static_cast<Interface*>(
-      zrk::shell::CreateTie<TestTie<Interface>, Interface, ExtensionKind<Number>>(&extension)));
+  return MakeTieOfKind<ExtensionKind<Number>, Interface>(extension);
 }
 
 class TieMetaClass : public testing::Test {
@@ -66,11 +77,12 @@ protected:
     standin::FailObjectAllocation(-1);
   }
 
-  // With 0 when there is a tie and it has no meta-class.
+  // With 0 when there is a tie and it has no meta-class. At once, as this copy of the process lacks the
+  // threads that memory of theirs could be found by.
   void ExitWithRareTie() {
     standin::FailMetaClassAllocation(0);
     const auto tie = MakeTie<4, RareInterface>(extension_);
-    std::exit(tie && !MetaClassOf(tie) ? 0 : 1);
+    std::_Exit(tie && !MetaClassOf(tie) ? 0 : 1);
   }
 
   const CATBaseUnknown_var product_ = CATBaseUnknown_var::Adopt(new Product);
@@ -94,6 +106,12 @@ TEST_F(TieMetaClass, WithoutMemoryForItTheTieIsMadeWithoutAndTheNextOneTriesAgai
 
 TEST_F(TieMetaClass, WithoutMemoryForTheInterfacesMetaObjectTheTieIsMadeWithoutToo) {
   EXPECT_EXIT(ExitWithRareTie(), testing::ExitedWithCode(0), "");
+}
+
+TEST_F(TieMetaClass, ThatThrowsWhileItIsMadeIsDoneWithout) {
+  const auto tie = MakeTieOfKind<ThrowingKind, TestInterface>(extension_);
+  ASSERT_TRUE(tie);
+  EXPECT_EQ(MetaClassOf(tie), nullptr);
 }
 
 TEST_F(TieMetaClass, IsMadeWithTheFirstTieAndKept) {

@@ -4,7 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include "CATISpecObject.h"
 #include "SVNStage.h"
+#include "component/product/AlteredProduct.h"
 
 namespace {
 
@@ -131,6 +133,35 @@ TEST_F(SVNLockCommands, LeaveTheChildrenAlone) {
   SVNLock(Context(), Car());
   SVNUnlock(Context(), Car());
   EXPECT_EQ(Redrawn.Paths(), (Paths{"car", "car"}));
+}
+
+TEST_F(SVNLockCommands, OfAProductThatIsNotInTheFeatureTreeDoNotAskForTheStatus) {
+  WriteEntries("wc", Listed());
+  const auto hidden = CATBaseUnknown_var::Adopt(new AlteredProduct(Car(), CATISpecObject::ClassId()));
+  EXPECT_EQ(SVNLock(Context(), hidden), S_OK);
+  EXPECT_EQ(SVNUnlock(Context(), hidden), S_OK);
+  EXPECT_EQ(Arguments(), (Lists{{"update", Path}, {"lock", Path}, {"unlock", Path}}));
+  EXPECT_EQ(Redrawn.Paths(), Paths{});
+}
+
+TEST_F(SVNLockCommands, DoNotLookWhetherTheWorkingCopyIsSubversions) {
+  WriteEntries("wc", Listed());
+  zrk::svn::SVNContext context = Context();
+  context.Tools.IsSVN = false;
+  EXPECT_EQ(SVNLock(context, Car()), S_OK);
+  EXPECT_EQ(SVNUnlock(context, Car()), S_OK);
+  EXPECT_EQ(Redrawn.Paths(), (Paths{"car", "car"}));
+}
+
+TEST_F(SVNLockCommands, TakeADocumentThatWasNeverStoredForAFileWithoutAName) {
+  Products.Add({.Name = "new", .Document = ""});
+  EXPECT_EQ(SVNLock(Context(), Products.At("new")), S_OK);
+  EXPECT_EQ(SVNUnlock(Context(), Products.At("new")), S_OK);
+  EXPECT_EQ(Arguments(), (Lists{{"update", ""},
+                                {"lock", ""},
+                                {"status", "-v", "-u", ""},
+                                {"unlock", ""},
+                                {"status", "-v", "-u", ""}}));
 }
 
 // Products whose document cannot be reached, each for another reason.

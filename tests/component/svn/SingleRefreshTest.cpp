@@ -118,6 +118,14 @@ TEST_F(SVNSingleRefresh, WithoutAnEntriesFileAProductLosesItsAttributesAndIsRedr
   EXPECT_EQ(Client.Runs().size(), 1U);
 }
 
+TEST_F(SVNSingleRefresh, ADocumentThatWasNeverStoredIsAskedAboutWithoutAName) {
+  Products.Add({.Name = "new", .Document = ""});
+  WriteStatusAttributes(Products.At("new"), kOld);
+  EXPECT_EQ(Refreshed("new"), std::nullopt);
+  EXPECT_EQ(Arguments(), (std::vector<std::vector<std::string>>{{"status", "-v", "-u", ""}}));
+  EXPECT_EQ(Redrawn.Paths(), Paths{"new"});
+}
+
 TEST_F(SVNSingleRefresh, AProductThatIsNotLinkableLosesItsAttributes) {
   Products.AddNotLinkable("group");
   WriteStatusAttributes(Products.At("group"), kOld);

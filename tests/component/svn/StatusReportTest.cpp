@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "framework/FrameworkControl.h"
 #include "text/NativeText.h"
 
 namespace {
@@ -67,6 +68,20 @@ TEST(SVNXMLReport, OnlyTheFirstOwnerCounts) {
 TEST(SVNXMLReport, TheFirstOwnerCountsAlsoWhenItIsEmpty) {
   EXPECT_EQ(Owner("<status><owner/><owner>bert</owner></status>"), "");
   EXPECT_EQ(Owner("<status><owner></owner></status>"), "");
+}
+
+TEST(SVNXMLReport, WithoutMemoryForItsObjectsThereIsNoOwner) {
+  const char* const report = "<status><owner>anna</owner></status>";
+  constexpr int kMostObjects = 20;
+  int objects = 0;
+  std::optional<std::string> owner;
+  for (; !owner && objects < kMostObjects; ++objects) {
+    standin::FailObjectAllocation(objects);
+    owner = Owner(report);
+    standin::FailObjectAllocation(-1);
+  }
+  EXPECT_EQ(owner, "anna");
+  EXPECT_GT(objects, 1) << "no object was refused";
 }
 
 TEST(SVNXMLReport, TheOwnerMayStandAtAnyDepth) {

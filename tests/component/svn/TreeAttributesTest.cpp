@@ -50,6 +50,12 @@ TEST_F(SVNTreeAttributes, AFileLockedElsewhereIsLockedAndTheCommentNamesTheOwner
   EXPECT_EQ(Refreshed(), (StatusAttributes{"9", "Locked", "", "Locked by: \nbert b.\n-------------\n"}));
 }
 
+TEST_F(SVNTreeAttributes, AnOwnerOfTheXMLReportIsNamedAlsoWhenNoLockShows) {
+  List();
+  Report(UnlockedReport(Path), XMLReport("bert"));
+  EXPECT_EQ(Refreshed(), (StatusAttributes{"9", "ReadOnly", "", "Locked by: \nbert\n-------------\n"}));
+}
+
 TEST_F(SVNTreeAttributes, AFileLockedElsewhereByNobodyKnownHasNoComment) {
   List();
   Report(ForeignLockReport(Path), "<status/>");

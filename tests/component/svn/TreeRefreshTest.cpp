@@ -116,6 +116,18 @@ TEST_F(SVNTreeRefresh, WithoutAnEntriesFileAProductLosesItsAttributesAndIsRedraw
   EXPECT_EQ(Client.Runs().size(), 2U);
 }
 
+TEST_F(SVNTreeRefresh, ADocumentThatWasNeverStoredIsAskedAboutWithoutANameAndItsChildrenAreVisited) {
+  Products.Add({.Name = "new", .Document = ""}).Add("wheel", "wc/wheel.CATPart");
+  Products.Place("new", "wheel.1", "wheel");
+  WriteStatusAttributes(Products.At("new"), kOld);
+  Refresh("new");
+  ASSERT_EQ(Arguments().size(), 4U);
+  EXPECT_EQ(Arguments()[0], (std::vector<std::string>{"status", "-v", "-u", ""}));
+  EXPECT_EQ(Arguments()[1], (std::vector<std::string>{"status", "-v", "-u", "--xml", ""}));
+  EXPECT_EQ(ReadStatusAttributes(Products.At("new")), std::nullopt);
+  EXPECT_EQ(Redrawn.Paths(), (Paths{"new", "new/wheel.1"}));
+}
+
 TEST_F(SVNTreeRefresh, AProductThatIsNotLinkableLosesItsAttributesAndTheWalkStopsThere) {
   BuildCar();
   Products.AddNotLinkable("group").Place("group", "wheel.1", "wheel").Place("car", "group.1", "group");

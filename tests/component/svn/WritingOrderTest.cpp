@@ -4,6 +4,7 @@
 
 #include "CATICkeParm.h"
 #include "SVNStage.h"
+#include "component/product/AlteredProduct.h"
 #include "framework/Facet.h"
 #include "svn/StatusReaders.h"
 
@@ -60,20 +61,6 @@ private:
   CATBaseUnknown_var instance_;
 };
 
-// A product as it is, but for the attributes that it carries.
-class RecordingProduct final : public CATBaseUnknown {
-public:
-  RecordingProduct(const CATBaseUnknown_var& product, Log& log)
-      : product_(product), carrier_(CATBaseUnknown_var::Adopt(new RecordingCarrier(log))) {}
-  CATBaseUnknown* QueryInterface(const CATIID& interfaceId) override {
-    return (interfaceId == ZRKIAttExtendable::ClassId() ? carrier_ : product_)->QueryInterface(interfaceId);
-  }
-
-private:
-  CATBaseUnknown_var product_;
-  CATBaseUnknown_var carrier_;
-};
-
 class SVNWritingOrder : public SVNStage {
 protected:
   SVNWritingOrder() {
@@ -83,7 +70,9 @@ protected:
 
   void List() const { WriteEntries("wc", File(10, "car.CATProduct", "9", "bert")); }
   CATBaseUnknown_var Car() {
-    return CATBaseUnknown_var::Adopt(new RecordingProduct(Products.At("car"), Written));
+    return CATBaseUnknown_var::Adopt(
+        new AlteredProduct(Products.At("car"), ZRKIAttExtendable::ClassId(),
+                           CATBaseUnknown_var::Adopt(new RecordingCarrier(Written))));
   }
 
   Log Written;

@@ -6,6 +6,7 @@
 #include "component/tools/ToolRunner.h"
 #include "support/DebugMessages.h"
 #include "support/HandleCount.h"
+#include "windows/LaunchLog.h"
 #include "windows/WindowsControl.h"
 
 // Every call to the system that can fail is made to, and told of in the words that are promised.
@@ -25,6 +26,12 @@ protected:
           WindowsCall::ReadFile, WindowsCall::WriteFile, WindowsCall::CloseHandle}) {
       standin::FailWindowsCall(call, -1);
     }
+    standin::SetLaunchListener({});
+  }
+
+  // Closes the handle itself once the client has its own, so that the run cannot.
+  static void CloseWhenStarted(const zrk::tools::UniqueHandle& handle) {
+    standin::SetLaunchListener([&](const standin::Launch&) { EXPECT_TRUE(CloseHandle(handle.Get())); });
   }
 
   // What stands in an output that held "old " when that call fails.
@@ -61,8 +68,19 @@ TEST_F(ToolFaults, NoProcessIsToldByTheLaunchAndThenByTheRun) {
   EXPECT_EQ(messages_.All(), (Messages{L"CreateProcess failed\n", L"Create process failed with"}));
 }
 
-TEST_F(ToolFaults, OnlyTheWriteEndOfTheOutputMustClose) {
-  // Which of the closings it is does not matter; the others are not looked at.
+TEST_F(ToolFaults, TheWriteEndOfTheOutputMustClose) {
+  CloseWhenStarted(tool_.ChildOutput.Write);
+  EXPECT_EQ(tool_.Run("status", "old "), "old ");
+  EXPECT_EQ(messages_.All(), Messages{L"Closing handle failed\n"});
+}
+
+TEST_F(ToolFaults, TheReadEndOfTheInputNeedNotClose) {
+  CloseWhenStarted(tool_.ChildInput.Read);
+  EXPECT_EQ(tool_.Run("status", "old "), "old text");
+  EXPECT_TRUE(messages_.All().empty());
+}
+
+TEST_F(ToolFaults, OnlyOneOfTheClosingsIsLookedAt) {
   int told = 0;
   for (int successes = 0; successes < 8; ++successes) {
     messages_.Clear();

@@ -69,6 +69,20 @@ TEST(ToolOutput, BytesThatAreNoTextComeThroughAsTheyAre) {
   EXPECT_EQ(tool.Run(), bytes);
 }
 
+TEST(ToolOutput, EachChunkOf4096BytesIsCutAtItsFirstZero) {
+  // The client writes the chunks in one piece, so that each is read whole.
+  std::string bytes;
+  std::string expected;
+  for (const std::string text : {"one ", "two ", "three ", "four"}) {
+    bytes += text + std::string(kChunk - text.size(), '\0');
+    bytes.back() = 'x';
+    expected += text;
+  }
+  ToolRunner tool;
+  tool.Client.Otherwise().Out(bytes);
+  EXPECT_EQ(tool.Run(), expected);
+}
+
 TEST(ToolOutput, AChunkIsCutAtItsFirstZeroAndTheNextOneFollows) {
   // The client writes a whole chunk in one piece, so it is read as one.
   std::string bytes = "kept" + std::string(kChunk - 4, 'x') + "next";

@@ -20,13 +20,15 @@ std::vector<standin::DictionaryEntry> EntriesOf(const TestExtensions& extensions
 TEST(Dictionary, ListsItsEntriesInTheOrderOfFilling) {
   const TestExtensions extensions;
   CATFillDictionary(extensions.Meta(), ITestSecond::MetaObject(), &MakeSecondTie, nullptr, 1);
-  CATFillDictionary(extensions.Meta(), ITestFirst::MetaObject(), &MakeFirstTie, nullptr, 0);
+  CATFillDictionary(extensions.Meta(), ITestFirst::MetaObject(), &MakeFirstTie, "Other", 0);
   const auto entries = EntriesOf(extensions);
   ASSERT_EQ(entries.size(), 2u);
   EXPECT_EQ(entries[0].Extension, extensions.Meta()->Name());
   EXPECT_EQ(entries[0].Interface, "ITestSecond");
+  EXPECT_EQ(entries[0].Library, "");
   EXPECT_EQ(entries[0].Flag, 1);
   EXPECT_EQ(entries[1].Interface, "ITestFirst");
+  EXPECT_EQ(entries[1].Library, "Other");
   EXPECT_EQ(entries[1].Flag, 0);
 }
 

@@ -90,6 +90,18 @@ TEST(CATUnicodeString, AppendsItself) {
   EXPECT_EQ(Bytes(text), "ab");
 }
 
+// A long text moves when it grows.
+TEST(CATUnicodeString, AppendsItselfHoweverLongItIs) {
+  std::string bytes;
+  for (int number = 0; bytes.size() < (700u << 10); ++number) bytes += std::to_string(number) + " ";
+  CATUnicodeString text(bytes.c_str());
+  text += text;
+  EXPECT_TRUE(Bytes(text) == bytes + bytes);
+  text = bytes.c_str();
+  text += text.ConvertToChar() + 1;
+  EXPECT_TRUE(Bytes(text) == bytes + bytes.substr(1));
+}
+
 TEST(CATUnicodeString, AddsUp) {
   const CATUnicodeString left("a");
   const CATUnicodeString sum = left + "b" + CATUnicodeString("c");
@@ -143,13 +155,16 @@ TEST(CATUnicodeString, ConvertsFromWideTextAndBack) {
 
 // A cost that grew with the square of the length would take hours here.
 TEST(CATUnicodeString, GrowsPieceByPieceAtACostOfThePieces) {
-  const std::string piece(4095, 'x');
+  std::string all;
   CATUnicodeString text;
   for (int pieces = 1; pieces <= 16384; ++pieces) {
-    text += (piece + '\\').c_str();
+    std::string piece = std::to_string(pieces);
+    piece.resize(4096, '\\');
+    text += piece.c_str();
+    all += piece;
     ASSERT_EQ(text.GetLengthInChar(), pieces * 4096);
   }
-  EXPECT_EQ(text.GetLengthInByte(), 16384 * 4096);
+  EXPECT_TRUE(Bytes(text) == all);
 }
 
 }  // namespace

@@ -150,6 +150,20 @@ TEST(Pipes, WhatWasWrittenAtOnceIsReadInPieces) {
   EXPECT_EQ(pipe.ReadAll(), "gh");
 }
 
+TEST(Pipes, LeaveWhatWasNotReadToAChildThatInheritsTheEnd) {
+  TestPipe input(true);
+  TestPipe output(true);
+  ASSERT_TRUE(input.Write("abcdef"));
+  input.CloseWriting();
+  char buffer[2];
+  DWORD count = 0;
+  ASSERT_TRUE(ReadFile(input.Reading, buffer, sizeof(buffer), &count, nullptr));
+  EXPECT_EQ(std::string(buffer, count), "ab");
+  ASSERT_NE(Launch(L"\\bin\\cat", L"cat", StandardHandles(input.Reading, output.Writing, nullptr)), 0u);
+  output.CloseWriting();
+  EXPECT_EQ(output.ReadAll(), "cdef");
+}
+
 TEST(Handles, FailInEveryUseAfterTheyAreClosed) {
   TestPipe pipe;
   const HANDLE reading = pipe.Reading;
@@ -196,6 +210,18 @@ TEST(Handles, AreCountedWhileTheyAreOpen) {
     EXPECT_EQ(standin::OpenHandleCount(), before + 1);
   }
   EXPECT_EQ(standin::OpenHandleCount(), before);
+}
+
+TEST(Handles, AreCountedWhileTheyAreInheritable) {
+  const int before = standin::InheritableHandleCount();
+  const TestPipe apart(false);
+  EXPECT_EQ(standin::InheritableHandleCount(), before);
+  TestPipe shared(true);
+  EXPECT_EQ(standin::InheritableHandleCount(), before + 2);
+  SetHandleInformation(shared.Reading, HANDLE_FLAG_INHERIT, 0);
+  EXPECT_EQ(standin::InheritableHandleCount(), before + 1);
+  shared.CloseWriting();
+  EXPECT_EQ(standin::InheritableHandleCount(), before);
 }
 
 TEST(Handles, HaveDescriptorsThatCloseOnExecAndWithThem) {

@@ -379,6 +379,7 @@ TEST(LaunchLog, HearsOfEveryCallWithItsArgumentsAsPassed) {
   EXPECT_EQ(heard[0].Program, L"\\bin\\true");
   EXPECT_EQ(heard[0].CommandLine, L" -d \"a\\b\"  status\x1F527");
   EXPECT_EQ(heard[0].Folder, L"\\usr\\");
+  EXPECT_EQ(heard[0].CreationFlags, CREATE_NO_WINDOW);
   EXPECT_TRUE(heard[0].Started);
   EXPECT_EQ(heard[1].Program, L"\\no\\such");
   EXPECT_FALSE(heard[1].Started);

@@ -1,0 +1,14 @@
+#pragma once
+
+// Making the memory of this program run short. Linux only: there the whole process, the host's library
+// with it, uses one `new`.
+namespace faults {
+
+// Lets `successes` further allocations of this thread succeed, and the one after them fail, once.
+// Negative: none fails.
+void FailMemory(int successes);
+
+// Calls the failure off; whether it had come.
+bool MemoryHasFailed();
+
+}  // namespace faults

@@ -1,6 +1,0 @@
-#pragma once
-
-#include <windows.h>
-
-// The creation flags of this program's last call of CreateProcessW. Windows only.
-DWORD LastCreationFlags();
