@@ -1,5 +1,6 @@
 #include "ZRKICVSManager.h"
 #include "component/operations/OperationTest.h"
+#include "support/HandleCount.h"
 
 // A file's way from the repository to the user and back, as the host sees it.
 

@@ -1,5 +1,6 @@
 #include "component/operations/OperationTest.h"
 #include "dialogs/MessageCatalogs.h"
+#include "support/HandleCount.h"
 
 // The client says something: the user is shown it as it came, and the product is not marked.
 

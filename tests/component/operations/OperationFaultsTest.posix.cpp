@@ -1,4 +1,5 @@
 #include "component/operations/OperationTest.h"
+#include "support/HandleCount.h"
 #include "windows/WindowsControl.h"
 
 // Every call to the system that an operation makes is made to fail, each in turn. Linux only: it takes

@@ -1,5 +1,6 @@
 #include "component/operations/OperationTest.h"
 #include "dialogs/MessageCatalogs.h"
+#include "support/HandleCount.h"
 
 // Giving back a modified file: the client asks whether to lose the changes, and waits.
 

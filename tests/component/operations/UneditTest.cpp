@@ -1,4 +1,6 @@
 #include "component/operations/OperationTest.h"
+#include "support/DebugMessages.h"
+#include "support/HandleCount.h"
 
 // Giving back a file that was not modified: the client asks nothing.
 
