@@ -1,7 +1,6 @@
 // The whole Subversion status reader with a client that prints the input: its text report up to the first
 // 0, its XML report behind that. Each input costs two client runs.
 
-#include "ZRKAttPackageBaseServices.h"
 #include "fuzz/Fuzzing.h"
 #include "fuzz/XMLReport.h"
 #include "support/Assembly.h"
@@ -48,7 +47,7 @@ private:
   const CATUnicodeString none_;
   const CATUnicodeString client_ = folder_.Host("svn.exe").c_str();
   const CATUnicodeString workingFolder_ = folder_.Host().c_str();
-  const ZRKIAttClass_var class_ = ZRKAttPackageBaseServices::GetDicoLookUp()->LookUpClass("ZRKCVS");
+  const ZRKIAttClass_var class_ = StatusClass();
   zrk::tools::Pipe output_;
   zrk::tools::Pipe input_;
   const zrk::svn::SVNContext context_{{true, none_, none_, client_, output_, input_}, workingFolder_, class_};

@@ -11,11 +11,6 @@
 
 namespace {
 
-ZRKIAttClass_var StatusClass() {
-  const ZRKIAttDictionary_var dictionary = ZRKAttPackageBaseServices::GetDicoLookUp();
-  return dictionary ? dictionary->LookUpClass("ZRKCVS") : nullptr;
-}
-
 CATICkeParm_var Parameter(const ZRKIAttInstance_var& instance, const char* name) {
   return instance->GetParameter(name);
 }
@@ -26,6 +21,11 @@ std::string Value(const ZRKIAttInstance_var& instance, const char* name) {
 }
 
 }  // namespace
+
+ZRKIAttClass_var StatusClass() {
+  const ZRKIAttDictionary_var dictionary = ZRKAttPackageBaseServices::GetDicoLookUp();
+  return dictionary ? dictionary->LookUpClass("ZRKCVS") : nullptr;
+}
 
 Session::Session() {
   standin::InstallAttributeDictionary({{"ZRKCVS", {"Revision", "Status", "Release", "Comment"}}});

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "CATBaseUnknown.h"
+#include "ZRKIAttributes.h"
 
 // The host's session as most tests want it: an attribute dictionary that knows package "ZRKCVS" with the
 // parameters Revision, Status, Release and Comment; an application frame with a main window; no message
@@ -16,6 +17,9 @@ public:
   Session& operator=(const Session&) = delete;
   ~Session();
 };
+
+// The class of package "ZRKCVS"; null when the dictionary does not know it.
+ZRKIAttClass_var StatusClass();
 
 // Values of a product's "ZRKCVS" instance. A parameter without a value is empty.
 struct StatusAttributes {

@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "ZRKAttPackageBaseServices.h"
 #include "attributes/StatusAttributes.h"
 #include "component/cvs/SampleReport.h"
 #include "component/product/ProductEvents.h"
@@ -26,12 +25,6 @@ public:
   std::int32_t WriteTree(const CATBaseUnknown_var& product) {
     const ZRKIAttClass_var attributeClass = StatusClass();
     return zrk::attributes::WriteStatusAttributesTree({attributeClass, Blocks, EditLines}, product);
-  }
-
-  static ZRKIAttClass_var StatusClass() {
-    const ZRKIAttDictionary_var dictionary = ZRKAttPackageBaseServices::GetDicoLookUp();
-    if (!dictionary) return nullptr;
-    return dictionary->LookUpClass("ZRKCVS");
   }
 
   Session TheSession;

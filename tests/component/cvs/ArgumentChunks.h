@@ -3,7 +3,6 @@
 #include <string>
 #include <vector>
 
-#include "ZRKAttPackageBaseServices.h"
 #include "cvs/FileArguments.h"
 #include "support/Assembly.h"
 #include "support/CVSFolder.h"
@@ -26,7 +25,7 @@ public:
 
   // Collects into `chunks` from that position on. Gives the position reached.
   int Collect(const CATBaseUnknown_var& root, CATListValCATUnicodeString& chunks, std::int32_t position) {
-    const ZRKIAttClass_var attributeClass(ZRKAttPackageBaseServices::GetDicoLookUp()->LookUpClass("ZRKCVS"));
+    const ZRKIAttClass_var attributeClass = StatusClass();
     Result = zrk::cvs::CollectCVSFileArguments({SandboxRoot, attributeClass}, root, chunks, &position);
     return position;
   }

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "ZRKAttPackageBaseServices.h"
 #include "component/product/ProductEvents.h"
 #include "support/Assembly.h"
 #include "support/CVSFolder.h"
@@ -29,7 +28,7 @@ protected:
 
   // The tail after the product's argument was appended to `tail`.
   std::string Appended(const CATBaseUnknown_var& product, const char* tail = "") {
-    const ZRKIAttClass_var attributeClass(ZRKAttPackageBaseServices::GetDicoLookUp()->LookUpClass("ZRKCVS"));
+    const ZRKIAttClass_var attributeClass = StatusClass();
     CATUnicodeString text(tail);
     EXPECT_EQ(zrk::cvs::AppendCVSFileArgument({sandboxRoot_, attributeClass}, product, text), 0);
     return Text(text);

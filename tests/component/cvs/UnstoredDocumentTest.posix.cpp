@@ -21,7 +21,7 @@ bool EnterRoot(const std::filesystem::path& folder) {
 
 // Exits with 0 when the document gives no argument.
 [[noreturn]] void CollectInRoot(ArgumentChunks& stage) {
-  const ZRKIAttClass_var attributeClass(ZRKAttPackageBaseServices::GetDicoLookUp()->LookUpClass("ZRKCVS"));
+  const ZRKIAttClass_var attributeClass = StatusClass();
   if (!EnterRoot(stage.Folder.Path())) std::_Exit(kNoRoot);
   CATUnicodeString tail;
   zrk::cvs::AppendCVSFileArgument({stage.SandboxRoot, attributeClass}, stage.Tree.At("new"), tail);

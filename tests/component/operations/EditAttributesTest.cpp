@@ -1,5 +1,4 @@
 #include "CATICkeParm.h"
-#include "ZRKAttPackageBaseServices.h"
 #include "attributes/AttributeDictionary.h"
 #include "component/operations/OperationTest.h"
 
@@ -14,7 +13,7 @@ protected:
   }
 
   std::string ValueOnCar(const char* parameter) const {
-    const ZRKIAttClass_var attributeClass = ZRKAttPackageBaseServices::GetDicoLookUp()->LookUpClass("ZRKCVS");
+    const ZRKIAttClass_var attributeClass = StatusClass();
     const ZRKIAttInstance_var instance = ZRKIAttExtendable_var(Car())->FindInstance(attributeClass);
     if (!instance) return "no instance";
     const CATICkeParm_var value = instance->GetParameter(parameter);

@@ -1,4 +1,3 @@
-#include "ZRKAttPackageBaseServices.h"
 #include "attributes/AttributeDictionary.h"
 #include "component/operations/OperationTest.h"
 
@@ -70,7 +69,7 @@ TEST_F(UneditState, WithoutAnInstanceIsRefusedAndNoneIsAdded) {
 }
 
 TEST_F(UneditState, AStatusWithoutAValueIsRefused) {
-  const ZRKIAttClass_var attributeClass = ZRKAttPackageBaseServices::GetDicoLookUp()->LookUpClass("ZRKCVS");
+  const ZRKIAttClass_var attributeClass = StatusClass();
   ZRKIAttExtendable_var(Car())->AddInstance(attributeClass, nullptr);
   ExpectRefused();
 }

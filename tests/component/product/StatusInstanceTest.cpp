@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "ZRKAttPackageBaseServices.h"
 #include "attributes/AttributeDictionary.h"
 #include "component/product/ProductEvents.h"
 #include "component/product/RecordingCarrier.h"
@@ -14,10 +13,6 @@ using testing::ElementsAre;
 using namespace zrk::product;
 
 namespace {
-
-ZRKIAttClass_var StatusClass() {
-  return ZRKIAttClass_var(ZRKAttPackageBaseServices::GetDicoLookUp()->LookUpClass("ZRKCVS"));
-}
 
 class TheStatusInstance : public testing::Test {
 protected:

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "EntriesText.h"
-#include "ZRKAttPackageBaseServices.h"
 #include "component/product/ProductEvents.h"
 #include "support/Assembly.h"
 #include "support/Files.h"
@@ -71,7 +70,7 @@ protected:
   const CATUnicodeString NoText{};
   CATUnicodeString SVNExePath = Client.HostPath("svn.exe").c_str();
   CATUnicodeString WorkingFolder = Folder.Host("wc").c_str();
-  ZRKIAttClass_var AttributeClass = ZRKAttPackageBaseServices::GetDicoLookUp()->LookUpClass("ZRKCVS");
+  ZRKIAttClass_var AttributeClass = StatusClass();
   zrk::tools::Pipe ChildOutput;
   zrk::tools::Pipe ChildInput;
 };

@@ -162,7 +162,7 @@ TEST_F(SVNTreeAttributes, AParameterThatIsMissingIsSkippedAndTheOthersAreWritten
       if (name != missing) parameters.push_back(name);
     }
     standin::InstallAttributeDictionary({{"ZRKCVS", parameters}});
-    AttributeClass = ZRKAttPackageBaseServices::GetDicoLookUp()->LookUpClass("ZRKCVS");
+    AttributeClass = StatusClass();
     StatusAttributes expected = written;
     if (missing == "Revision") expected.Revision = "";
     if (missing == "Status") expected.Status = "";
@@ -173,7 +173,7 @@ TEST_F(SVNTreeAttributes, AParameterThatIsMissingIsSkippedAndTheOthersAreWritten
 
 TEST_F(SVNTreeAttributes, OtherParametersAreNotTouched) {
   standin::InstallAttributeDictionary({{"ZRKCVS", {"Owner", "Status", "Revision", "Release", "Comment"}}});
-  AttributeClass = ZRKAttPackageBaseServices::GetDicoLookUp()->LookUpClass("ZRKCVS");
+  AttributeClass = StatusClass();
   const ZRKIAttExtendable_var carrier = Products.At("car");
   carrier->AddInstance(AttributeClass, nullptr);
   const ZRKIAttInstance_var instance = carrier->FindInstance(AttributeClass);
