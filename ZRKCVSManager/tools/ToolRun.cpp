@@ -43,7 +43,8 @@ std::int32_t LaunchTool(const ToolContext& context, const CATUnicodeString& comm
 bool ReadOutput(const ToolContext& context, CATUnicodeString& output) {
   static const text::TextSearch question(kQuestion);
   char buffer[kChunkSize + 1];
-  std::string unsearched = output.ConvertToChar();
+  std::size_t length = std::strlen(output.ConvertToChar());
+  std::size_t searchedFrom = 0;
   for (;;) {
     DWORD count = 0;
     buffer[0] = '\0';
@@ -51,10 +52,11 @@ bool ReadOutput(const ToolContext& context, CATUnicodeString& output) {
     if (count == 0) return false;
     buffer[count] = '\0';
     output += buffer;
-    unsearched += buffer;
-    if (question.Find(unsearched) != std::string_view::npos) return true;
-    // What the question can reach back into stays.
-    unsearched.erase(0, unsearched.size() - std::min(unsearched.size(), kQuestion.size() - 1));
+    length += std::strlen(buffer);
+    const std::string_view whole(output.ConvertToChar(), length);
+    if (question.Find(whole, searchedFrom) != std::string_view::npos) return true;
+    // What the question can reach back into is searched again.
+    searchedFrom = length - std::min(length, kQuestion.size() - 1);
   }
 }
 

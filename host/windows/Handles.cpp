@@ -65,8 +65,8 @@ BOOL ReadFile(HANDLE handle, LPVOID buffer, DWORD size, LPDWORD read, LPOVERLAPP
   Store(read, 0);
   if (TakesFault(WindowsCall::ReadFile)) return FALSE;
   const auto object = HandleTable::Instance().Find(handle);
-  if (!object || overlapped || !CanBeRead(object->Descriptor.Get())) return FALSE;
-  if (size == 0) return TRUE;
+  if (!object || overlapped) return FALSE;
+  if (size == 0) return CanBeRead(object->Descriptor.Get());
 
   const long count = object->Reader.Read(object->Descriptor.Get(), buffer, size, object->Inheritable);
   if (count <= 0) return FALSE;
