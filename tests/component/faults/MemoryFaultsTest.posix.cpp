@@ -123,9 +123,9 @@ std::string CaseName(const testing::TestParamInfo<Call>& info) {
 
 TEST_P(EveryCall, EndsWhenTheMemoryRunsOut) {
   EXPECT_TRUE(MakeWithFailureAfter(0));
-  // Not as far as the start of a client: of one that could not be made known the host's stand-in leaves a
-  // handle open.
-  for (const int successes : {1, 2, 3, 4}) MakeWithFailureAfter(successes);
+  // Every allocation at first, and then some, to the end of the call.
+  for (int successes = 1; MakeWithFailureAfter(successes); successes += 1 + successes / 8) {
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(, EveryCall, testing::ValuesIn(kCalls), CaseName);
