@@ -73,6 +73,8 @@ TEST(OutputCapture, GivesStandardOutputBack) {
 }
 
 TEST(OutputCapture, LeavesNothingOpenWhereItCannotBegin) {
+  // Sanitizers look at each kind of object once, through descriptors of their own.
+  { const zrkhost::OutputCapture works; }
   const int before = CountOpenHandles();
   const int next = fcntl(STDOUT_FILENO, F_DUPFD, 3);
   close(next);
