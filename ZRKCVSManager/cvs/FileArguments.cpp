@@ -15,7 +15,7 @@ namespace {
 constexpr int kChunkLimit = 32000;
 // A blank and two quotation marks around each path.
 constexpr int kArgumentOverhead = 3;
-// The structure below a product is there.
+// The mode in which the structure below a product can be walked.
 constexpr int kWorkModeDesign = 1;
 
 // Makes the structure below the product ready to be walked and gives the product's document. A product that

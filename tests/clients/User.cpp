@@ -82,6 +82,13 @@ Json User::Host(const std::vector<std::string>& arguments, int status) const {
   return Json::parse(ReadFile(report));
 }
 
+Json User::HostOn(const std::filesystem::path& folder, const std::vector<std::string>& commands,
+                  int status) const {
+  std::vector<std::string> arguments = {"--folder", folder.string()};
+  for (const std::string& command : commands) arguments.insert(arguments.end(), {"-c", command});
+  return Host(arguments, status);
+}
+
 CommandResult User::Adapter(const std::string& program, const std::vector<std::string>& arguments) const {
   std::vector<std::string> command = {(ExecutableFolder() / "clients" / program).string()};
   command.insert(command.end(), arguments.begin(), arguments.end());

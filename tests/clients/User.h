@@ -34,6 +34,10 @@ public:
   // The report of zrkhost's call. Expects that it ends with `status`.
   Json Host(const std::vector<std::string>& arguments, int status = 0) const;
 
+  // The same of console commands on the products made from a folder.
+  Json HostOn(const std::filesystem::path& folder, const std::vector<std::string>& commands,
+              int status) const;
+
   // Calls an adapter, such as "svn.exe".
   CommandResult Adapter(const std::string& program, const std::vector<std::string>& arguments) const;
 

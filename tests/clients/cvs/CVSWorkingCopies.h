@@ -33,10 +33,10 @@ protected:
 
   // The report of commands on the files of the working copy.
   Json Anna(const std::vector<std::string>& commands, int status = 0) const {
-    return Call(anna_, annasCopy_, commands, status);
+    return anna_.HostOn(annasCopy_, commands, status);
   }
   Json Ben(const std::vector<std::string>& commands, int status = 0) const {
-    return Call(ben_, bensCopy_, commands, status);
+    return ben_.HostOn(bensCopy_, commands, status);
   }
 
   // The name by which the client knows the user: it takes it from the environment only where it runs as the
@@ -56,14 +56,6 @@ protected:
   const std::filesystem::path bensCopy_ = bensParent_ / module;
   User anna_{"anna", folder_ / "anna"};
   User ben_{"ben", folder_ / "ben"};
-
-private:
-  static Json Call(const User& user, const std::filesystem::path& copy,
-                   const std::vector<std::string>& commands, int status) {
-    std::vector<std::string> arguments = {"--folder", copy.string()};
-    for (const std::string& command : commands) arguments.insert(arguments.end(), {"-c", command});
-    return user.Host(arguments, status);
-  }
 };
 
 #define ZRK_THROUGH_BOTH_ROOTS(suite)                                            \

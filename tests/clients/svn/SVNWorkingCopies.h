@@ -37,10 +37,10 @@ protected:
 
   // The report of commands on the files of the working copy.
   Json Anna(const std::vector<std::string>& commands, int status = 0) const {
-    return Call(anna_, annasCopy_, commands, status);
+    return anna_.HostOn(annasCopy_, commands, status);
   }
   Json Ben(const std::vector<std::string>& commands, int status = 0) const {
-    return Call(ben_, bensCopy_, commands, status);
+    return ben_.HostOn(bensCopy_, commands, status);
   }
 
   // The path as the component sends it to the client.
@@ -52,12 +52,4 @@ protected:
   const std::filesystem::path bensCopy_ = folder_ / "bens documents";
   User anna_{"anna", folder_ / "anna"};
   User ben_{"ben", folder_ / "ben"};
-
-private:
-  static Json Call(const User& user, const std::filesystem::path& copy,
-                   const std::vector<std::string>& commands, int status) {
-    std::vector<std::string> arguments = {"--folder", copy.string()};
-    for (const std::string& command : commands) arguments.insert(arguments.end(), {"-c", command});
-    return user.Host(arguments, status);
-  }
 };
