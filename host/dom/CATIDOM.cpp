@@ -39,6 +39,7 @@ private:
   };
   struct ElementPart final : Facet<CATIDOMElement> {
     explicit ElementPart(Element& self) : Facet(self), Self(self) {}
+    CATUnicodeString GetAttribute(const CATUnicodeString& name) override;
     CATIDOMNodeList_var GetElementsByTagName(const CATUnicodeString& name) override;
     Element& Self;
   };
@@ -77,6 +78,10 @@ public:
 private:
   const SharedTree tree_;
 };
+
+CATUnicodeString Element::ElementPart::GetAttribute(const CATUnicodeString& name) {
+  return Self.tree_->AttributeOf(Self.index_, name.ConvertToChar()).c_str();
+}
 
 CATIDOMNodeList_var Element::ElementPart::GetElementsByTagName(const CATUnicodeString& name) {
   const auto& elements = Self.tree_->Elements();

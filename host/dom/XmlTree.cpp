@@ -33,11 +33,18 @@ private:
     }
   }
 
-  static void StartElement(void* user, const XML_Char* name, const XML_Char** /*attributes*/) {
-    Guarded(user, [name](XmlTreeBuilder& builder) {
+  static void StartElement(void* user, const XML_Char* name, const XML_Char** attributes) {
+    Guarded(user, [name, attributes](XmlTreeBuilder& builder) {
       auto& tree = builder.Tree;
+      const std::size_t attributesBegin = tree.attributes_.size();
+      for (const XML_Char** pair = attributes; *pair; pair += 2) {
+        tree.attributes_.push_back({NativeFromUtf8(pair[0]), pair[1]});
+      }
       builder.open_.push_back(tree.elements_.size());
-      tree.elements_.push_back({.Name = NativeFromUtf8(name), .TextBegin = tree.text_.size()});
+      tree.elements_.push_back({.Name = NativeFromUtf8(name),
+                                .TextBegin = tree.text_.size(),
+                                .AttributesBegin = attributesBegin,
+                                .AttributesEnd = tree.attributes_.size()});
     });
   }
 
@@ -77,6 +84,14 @@ std::optional<XmlTree> XmlTree::Parse(std::string_view text) {
 std::string XmlTree::TextBelow(std::size_t element) const {
   const Element& below = elements_[element];
   return NativeFromUtf8(std::string_view(text_).substr(below.TextBegin, below.TextEnd - below.TextBegin));
+}
+
+std::string XmlTree::AttributeOf(std::size_t element, std::string_view name) const {
+  const Element& owner = elements_[element];
+  for (std::size_t index = owner.AttributesBegin; index < owner.AttributesEnd; ++index) {
+    if (attributes_[index].Name == name) return NativeFromUtf8(attributes_[index].Value);
+  }
+  return {};
 }
 
 }  // namespace standin

@@ -22,6 +22,8 @@ using CATIDOMNodeList_var = CATHandle<CATIDOMNodeList>;
 class CATIDOMElement : public CATBaseUnknown {
   CATDeclareInterface
 
+  // Value of the element's attribute of that name; empty when it has none.
+  virtual CATUnicodeString GetAttribute(const CATUnicodeString& name) = 0;
   // All elements of that name below this one, at any depth, in document order.
   virtual CATIDOMNodeList_var GetElementsByTagName(const CATUnicodeString& name) = 0;
 };

@@ -55,6 +55,22 @@ TEST(CATIDOM, FindsOnlyWhatIsBelowTheElementAsked) {
   EXPECT_EQ(b->GetElementsByTagName("b")->GetLength(), 0);
 }
 
+TEST(CATIDOM, GivesTheValueOfAnAttribute) {
+  const auto document = Parse("<r name=\"a &amp; &lt;b&gt;\" other='2'><a name=\"inner\"/><a/></r>");
+  const CATIDOMElement_var root = document->GetDocumentElement();
+  EXPECT_EQ(root->GetAttribute("name"), "a & <b>");
+  EXPECT_EQ(root->GetAttribute("other"), "2");
+  const CATIDOMNodeList_var found = root->GetElementsByTagName("a");
+  EXPECT_EQ(CATIDOMElement_var(found->Item(0))->GetAttribute("name"), "inner");
+}
+
+TEST(CATIDOM, AnAttributeThatIsNotThereIsEmpty) {
+  const auto document = Parse("<r name=\"1\"><a Name=\"2\"/></r>");
+  const CATIDOMElement_var a(document->GetDocumentElement()->GetElementsByTagName("a")->Item(0));
+  EXPECT_EQ(a->GetAttribute("name"), "");
+  EXPECT_EQ(a->GetAttribute(""), "");
+}
+
 TEST(CATIDOM, CountsItemsFromZeroAndHasNoneOutside) {
   const auto document = Parse("<r><a>x</a></r>");
   const CATIDOMNodeList_var nodes = document->GetDocumentElement()->GetElementsByTagName("a");
