@@ -100,6 +100,9 @@ BOOL CloseHandle(HANDLE handle);
 // Of this process's standard streams, which keep it: it cannot be closed.
 HANDLE GetStdHandle(DWORD which);
 
+// Whether a character of two bytes can start with that byte, in the code page of this process.
+BOOL IsDBCSLeadByte(BYTE byte);
+
 // To whoever listens on the debugger channel: one call, one message.
 void OutputDebugStringW(LPCWSTR message);
 
