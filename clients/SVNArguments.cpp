@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr const char* kNonInteractive = "--non-interactive";
+
 // Options whose value stands in the argument behind them unless it is attached ("-mTEXT", "--message=TEXT").
 constexpr std::array<std::string_view, 34> kOptionsWithValue = {"-m",
                                                                 "--message",
@@ -99,6 +101,12 @@ bool IsDeletionOfPaths(const std::vector<Argument>& arguments) {
   return deletes && paths;
 }
 
+bool IsForTodaysClient(const std::vector<Argument>& arguments) {
+  return std::any_of(arguments.begin(), arguments.end(), [](const Argument& argument) {
+    return argument.ItsRole == Role::Option && argument.Text == kNonInteractive;
+  });
+}
+
 std::string WithSlashes(std::string path) {
   std::replace(path.begin(), path.end(), '\\', '/');
   return path;
@@ -112,15 +120,16 @@ std::string Closed(const std::string& path) {
 
 SVNCall TranslateSVNCall(const std::vector<std::string>& arguments) {
   const std::vector<Argument> parsed = Parse(arguments);
-  const bool dropMessage = IsDeletionOfPaths(parsed);
+  const bool isForToday = IsForTodaysClient(parsed);
+  const bool dropMessage = !isForToday && IsDeletionOfPaths(parsed);
 
   SVNCall call;
-  call.Arguments = {"--non-interactive"};
+  if (!isForToday) call.Arguments = {kNonInteractive};
   for (const Argument& argument : parsed) {
     if (dropMessage && argument.ItsRole == Role::Message) continue;
     if (argument.ItsRole == Role::Path) {
       call.Paths.push_back(WithSlashes(argument.Text));
-      call.Arguments.push_back(Closed(call.Paths.back()));
+      call.Arguments.push_back(isForToday ? call.Paths.back() : Closed(call.Paths.back()));
     } else {
       call.Arguments.push_back(argument.Text);
     }

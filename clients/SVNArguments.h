@@ -11,7 +11,8 @@ struct SVNCall {
   std::vector<std::string> Paths;
 };
 
-// From a command line made for the Windows client to one for the Subversion of this system.
+// From a command line made for the Windows client to one for the Subversion of this system. One that says
+// "--non-interactive" itself is made for today's client: only the "\" in its paths become "/". In any other
 //
 // - "--non-interactive" comes first: nobody sits in front of the client to type a password;
 // - "\" in a path becomes "/", and a path that holds "@" ends in "@": the client would take what follows

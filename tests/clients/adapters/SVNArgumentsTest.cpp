@@ -62,6 +62,20 @@ TEST(SVNArguments, TakeEverythingBehindTwoHyphensForPaths) {
               ElementsAre("--non-interactive", "delete", "--", "-m/x"));
 }
 
+TEST(SVNArguments, OnlyTurnBackslashesRoundForACallThatNeverAsks) {
+  EXPECT_THAT(Translated({"lock", "--non-interactive", "\\w\\a@b.CATPart@"}),
+              ElementsAre("lock", "--non-interactive", "/w/a@b.CATPart@"));
+  EXPECT_THAT(Translated({"update", "--non-interactive", "\\w\\a@b"}),
+              ElementsAre("update", "--non-interactive", "/w/a@b"));
+  EXPECT_THAT(Translated({"delete", "--force", "--non-interactive", "-mx", "a\\b"}),
+              ElementsAre("delete", "--force", "--non-interactive", "-mx", "a/b"));
+}
+
+TEST(SVNArguments, TakeTheNameOfThatOptionForAPathBehindTwoHyphens) {
+  EXPECT_THAT(Translated({"lock", "--", "--non-interactive"}),
+              ElementsAre("--non-interactive", "lock", "--", "--non-interactive"));
+}
+
 TEST(SVNArguments, StandAnOptionWithoutItsValue) {
   EXPECT_THAT(Translated({"lock", "-m"}), ElementsAre("--non-interactive", "lock", "-m"));
 }
