@@ -11,21 +11,27 @@ namespace zrk::cvs {
 // Where the documents of a product tree are kept under version control, told by the files that the
 // clients keep in the folder of a document.
 struct WorkingCopy {
-  // The document examined last has `.svn\entries` beside it.
+  // The document examined last lies in a Subversion working copy: `.svn\entries` is beside it, or a database
+  // beside or above it (svn/WorkingCopyForm.h).
   bool IsSVN = false;
-  // Folder, without a closing "\", of the document whose `.svn\entries` was found.
+  // Folder, without a closing "\", of the last such document.
   CATUnicodeString SVNWorkingFolder;
   // Local folder, with a closing "\", that corresponds to the repository's root folder: the document's
   // path up to where the text of `CVS\Repository` occurs first, empty when it does not occur.
   CATUnicodeString SandboxRoot;
   // Text of `CVS\Root`, without line feeds.
   CATUnicodeString CVSRoot;
+  // Folder that holds the `.svn` with the database of the last such Subversion working copy found, without a
+  // closing "\".
+  CATUnicodeString SVNDatabaseRoot{};
 };
 
 // Looks beside the product's document and, where there is no `CVS\Repository`, goes on with its children
 // of type CATIProduct, depth first: the last CVS working copy found holds, and the last product examined
-// decides whether it is Subversion. What is not found stays as it was; a product without a stored
-// document ends its branch.
+// decides whether it is Subversion. A document in a Subversion working copy with a database ends its branch,
+// as one of CVS does; when the last product examined is in no working copy at all, and none of CVS was found,
+// the last such working copy holds. What is not found stays as it was; a product without a stored document
+// ends its branch.
 void DiscoverWorkingCopy(const CATIProduct_var& product, WorkingCopy& workingCopy);
 
 // Tells which documents lie in a CVS working copy. The answer for the last folder is remembered, as most

@@ -27,6 +27,15 @@ bool CanOpen(const std::string& path) {
   return OpenText(path) != nullptr;
 }
 
+bool HoldsSeveralLines(const std::string& path) {
+  const auto file = OpenText(path);
+  if (!file) return false;
+  for (int character = fgetc(file.get()); character != EOF; character = fgetc(file.get())) {
+    if (character == '\n') return fgetc(file.get()) != EOF;
+  }
+  return false;
+}
+
 std::optional<Text> ReadText(const std::string& path) {
   const auto file = OpenText(path);
   if (!file) return std::nullopt;
@@ -45,6 +54,11 @@ std::optional<Text> ReadText(const std::string& path) {
     text.Characters = std::move(larger);
   }
   return text;
+}
+
+bool IsFolder(const std::string& path) {
+  struct _stat64i32 status {};
+  return _stat64i32(path.c_str(), &status) == 0 && (status.st_mode & _S_IFMT) == _S_IFDIR;
 }
 
 bool IsWritable(const char* path) {

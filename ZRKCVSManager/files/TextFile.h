@@ -14,6 +14,9 @@ namespace zrk::files {
 // Whether the file can be opened for reading.
 bool CanOpen(const std::string& path);
 
+// Whether the text goes on behind its first line; false when the file cannot be opened.
+bool HoldsSeveralLines(const std::string& path);
+
 // A text in memory that was not cleared before, as a std::string's would be: the entries of a large folder
 // are read anew for each of its documents.
 struct Text {
@@ -25,6 +28,9 @@ struct Text {
 
 // The whole text, or what comes before a read error; nothing when the file cannot be opened.
 std::optional<Text> ReadText(const std::string& path);
+
+// Whether there is a folder of that path, which must not end in "\".
+bool IsFolder(const std::string& path);
 
 // Whether the file's mode lets its owner write; false when there is no such file.
 bool IsWritable(const char* path);

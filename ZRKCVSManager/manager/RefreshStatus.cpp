@@ -3,6 +3,7 @@
 #include "attributes/StatusAttributes.h"
 #include "cvs/FileArguments.h"
 #include "manager/ZRKECVSManager.h"
+#include "svn/DatabaseStatus.h"
 #include "svn/StatusReaders.h"
 #include "text/Text.h"
 
@@ -19,7 +20,8 @@ void ZRKECVSManager::RefreshStatus(const CATISpecObject_var& root) {
 
 void ZRKECVSManager::RefreshSVNRoute() {
   SVNTimings = {};
-  svn::RefreshSVNStatusTree(SVN(), CATISpecObject_var(this), SVNTimings);
+  const auto refresh = KnowsSVNDatabase() ? svn::RefreshDatabaseTree : svn::RefreshSVNStatusTree;
+  refresh(SVN(), CATISpecObject_var(this), SVNTimings);
   tools::ReportTime("SVN status check time", SVNTimings.StatusCheck);
   tools::ReportTime("XML Parsing time", SVNTimings.XMLParsing);
   tools::ReportTime("Refreshing status time (attributing)", SVNTimings.Attributing);

@@ -8,7 +8,9 @@
 #include "cvs/StatusReport.h"
 #include "cvs/WorkingCopy.h"
 #include "product/ProductDocument.h"
+#include "svn/DatabaseStatus.h"
 #include "svn/LockCommands.h"
+#include "svn/WorkingCopyForm.h"
 #include "text/Text.h"
 #include "tools/ToolLocation.h"
 
@@ -37,7 +39,16 @@ HRESULT ZRKECVSManager::GetFileStatus(const CATIProduct_var& product, ZRKCVSStat
   const product::ProductDocument document = product::ReachDocument(product);
   if (document.Path.GetLengthInByte() == 0) return S_OK;
   const tools::RunScope run(Tools());
-  return QueryCVSFileStatus(document.Path, record);
+  if (!IsSVN || !KnowsSVNDatabase()) return QueryCVSFileStatus(document.Path, record);
+  switch (svn::FormOfDocument(document.Path)) {
+    case svn::Form::Database:
+      return QuerySVNFileStatus(document.Path, record);
+    case svn::Form::Text:
+      return QueryCVSFileStatus(document.Path, record);
+    case svn::Form::None:
+      break;
+  }
+  return S_OK;
 }
 
 HRESULT ZRKECVSManager::SVNDelete(const CATUnicodeString& file) {
@@ -55,12 +66,13 @@ std::int32_t ZRKECVSManager::CheckCVSToolPath() {
 }
 
 void ZRKECVSManager::DiscoverWorkingCopy(const CATIProduct_var& product) {
-  cvs::WorkingCopy workingCopy{IsSVN, SVNWorkingFolder, SandboxRoot, CVSRoot};
+  cvs::WorkingCopy workingCopy{IsSVN, SVNWorkingFolder, SandboxRoot, CVSRoot, SVNDatabaseRoot};
   cvs::DiscoverWorkingCopy(product, workingCopy);
   IsSVN = workingCopy.IsSVN;
   SVNWorkingFolder = workingCopy.SVNWorkingFolder;
   SandboxRoot = workingCopy.SandboxRoot;
   CVSRoot = workingCopy.CVSRoot;
+  SVNDatabaseRoot = workingCopy.SVNDatabaseRoot;
 }
 
 HRESULT ZRKECVSManager::QueryCVSFileStatus(const CATUnicodeString& documentPath, ZRKCVSStatus& record) {
@@ -72,6 +84,17 @@ HRESULT ZRKECVSManager::QueryCVSFileStatus(const CATUnicodeString& documentPath,
   CommTime += clock.Elapsed();
   cvs::ParseCVSStatusBlock(text::View(report), record);
   return S_OK;
+}
+
+HRESULT ZRKECVSManager::QuerySVNFileStatus(const CATUnicodeString& documentPath, ZRKCVSStatus& record) {
+  const tools::RunClock clock;
+  svn::QueryDatabaseFile(SVN(), documentPath, record);
+  CommTime += clock.Elapsed();
+  return S_OK;
+}
+
+bool ZRKECVSManager::KnowsSVNDatabase() const {
+  return SVNDatabaseRoot.GetLengthInByte() > 0;
 }
 
 bool ZRKECVSManager::KnowsCVSWorkingCopy() const {

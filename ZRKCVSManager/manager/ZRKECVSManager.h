@@ -83,8 +83,11 @@ public:
   zrk::tools::Ticks CommTime = 0;
   // Empty when it was not found along PATH.
   CATUnicodeString SVNExePath;
-  // Folder, without a closing "\", in which Subversion runs.
+  // Folder, without a closing "\", in which Subversion runs on a working copy of the text form.
   CATUnicodeString SVNWorkingFolder;
+  // Folder that holds the `.svn` of a Subversion working copy with a database, without a closing "\"; empty
+  // while none was found.
+  CATUnicodeString SVNDatabaseRoot;
   // Of the last Subversion refresh.
   zrk::svn::SVNTimes SVNTimings;
 
@@ -93,6 +96,9 @@ private:
     zrk::tools::Ticks Status = 0;
     zrk::tools::Ticks Edit = 0;
   };
+
+  // GetFileStatus for a document in a Subversion working copy with a database. Always 0.
+  HRESULT QuerySVNFileStatus(const CATUnicodeString& documentPath, ZRKCVSStatus& record);
 
   zrk::tools::ToolContext Tools();
   zrk::svn::SVNContext SVN();
@@ -103,4 +109,5 @@ private:
   void RefreshSVNRoute();
   void RefreshCVSRoute(const CATISpecObject_var& root);
   bool KnowsCVSWorkingCopy() const;
+  bool KnowsSVNDatabase() const;
 };

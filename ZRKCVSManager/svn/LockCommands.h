@@ -5,7 +5,8 @@
 #include "svn/SVNContext.h"
 
 // The Subversion commands that change a working copy. What the client answers is not looked at; the
-// status read afterwards tells what came of a command.
+// status read afterwards shows what came of a command. In a working copy of the text form the client runs in
+// the manager's working folder; in one with a database in the file's own folder, and it never asks anybody.
 namespace zrk::svn {
 
 // Updates and then locks the product's document, and refreshes the product's attributes. E_FAIL, with

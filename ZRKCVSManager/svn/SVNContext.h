@@ -24,7 +24,7 @@ struct SVNContext {
   const ZRKIAttClass_var& AttributeClass;
 };
 
-// " <command> \"<path>\"", the form that all file commands but the deletion have.
+// " <command> \"<path>\"", the form that all file commands of the text form but the deletion have.
 inline CATUnicodeString FileCommand(const char* command, const CATUnicodeString& path) {
   return CATUnicodeString(" ") + command + " \"" + path + "\"";
 }

@@ -6,6 +6,7 @@
 #include "product/ProductTree.h"
 #include "product/StatusInstance.h"
 #include "svn/EntriesOnDisk.h"
+#include "svn/ProductStatus.h"
 #include "svn/StatusReport.h"
 #include "tools/RunClock.h"
 
@@ -21,32 +22,7 @@ CATUnicodeString RunReport(const SVNContext& context, const char* command, const
   return report;
 }
 
-const char* StatusWord(const ZRKCVSStatus& record) {
-  if (!record.IsVersioned) return "Unversioned";
-  if (record.IsLockedHere) return "Edit";
-  return record.IsLockedByOther ? "Locked" : "ReadOnly";
-}
-
-CATUnicodeString TreeComment(const ZRKCVSStatus& record) {
-  if (record.LockOwner.GetLengthInByte() < 1) return record.AuxText;
-  return CATUnicodeString("Locked by: \n") + record.LockOwner + "\n-------------\n" + record.AuxText;
-}
-
-CATUnicodeString SingleComment(const ZRKCVSStatus& record) {
-  return record.LockOwner + "\n" + record.AuxText;
-}
-
-// Writes the attributes of a listed document, takes them off for one that is not, and redraws.
-void ShowOnProduct(const SVNContext& context, const CATBaseUnknown_var& product, const ZRKCVSStatus& record,
-                   const CATUnicodeString& comment) {
-  if (record.IsInEntries) {
-    product::WriteStatusValues(product, context.AttributeClass,
-                               {record.WorkingRevision, StatusWord(record), record.ExistingTags, comment});
-  } else {
-    product::RemoveInstance(product, context.AttributeClass);
-  }
-  product::Redraw(product);
-}
+}  // namespace
 
 void RefreshInTree(const SVNContext& context, const CATBaseUnknown_var& product, const CATUnicodeString& path,
                    SVNTimes& times) {
@@ -66,8 +42,6 @@ void RefreshInTree(const SVNContext& context, const CATBaseUnknown_var& product,
   ShowOnProduct(context, product, record, TreeComment(record));
   times.Attributing += static_cast<double>(attributeClock.Elapsed());
 }
-
-}  // namespace
 
 std::int32_t RefreshSVNStatusTree(const SVNContext& context, const CATBaseUnknown_var& product,
                                   SVNTimes& times) {

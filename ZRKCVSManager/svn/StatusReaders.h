@@ -4,8 +4,8 @@
 
 #include "svn/SVNContext.h"
 
-// Bringing the status attributes of products in a Subversion working copy up to date. What they show
-// comes from the entries file beside each document and from the client's status reports:
+// Bringing the status attributes of products in a Subversion working copy of the text form up to date. What
+// they show comes from the entries file beside each document and from the client's status reports:
 //
 //   "Revision"  the last committed revision, from the entries file
 //   "Status"    "Edit" when the entries file holds this working copy's lock, else "Locked" when the text
@@ -22,6 +22,10 @@ namespace zrk::svn {
 // entries file; "Comment" is empty without an owner. Adds to `times`. Always 0.
 std::int32_t RefreshSVNStatusTree(const SVNContext& context, const CATBaseUnknown_var& product,
                                   SVNTimes& times);
+
+// What it does with one product that has a document of that path.
+void RefreshInTree(const SVNContext& context, const CATBaseUnknown_var& product, const CATUnicodeString& path,
+                   SVNTimes& times);
 
 // Refreshes one product with one client run. The owner comes from the entries file alone; "Comment" is
 // the owner and a line feed. Always 0.

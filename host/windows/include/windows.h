@@ -111,6 +111,8 @@ struct _stat64i32 {
   std::uint16_t st_mode;
   std::int32_t st_size;
 };
+#define _S_IFMT 0xF000
+#define _S_IFDIR 0x4000
 #define _S_IREAD 0x0100
 #define _S_IWRITE 0x0080
 // 0, or -1 when there is no such file, which leaves `result` as it is; `path` is separated by "\". Sizes

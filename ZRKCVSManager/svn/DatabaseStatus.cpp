@@ -1,0 +1,122 @@
+#include "svn/DatabaseStatus.h"
+
+#include <map>
+#include <optional>
+#include <string>
+
+#include "files/TextFile.h"
+#include "product/ProductTree.h"
+#include "product/StatusInstance.h"
+#include "svn/DatabaseClient.h"
+#include "svn/ProductStatus.h"
+#include "svn/StatusReaders.h"
+#include "svn/WorkingCopyForm.h"
+#include "text/Path.h"
+#include "text/Text.h"
+#include "tools/RunClock.h"
+
+namespace zrk::svn {
+namespace {
+
+std::string FolderOfDocument(const CATUnicodeString& path) {
+  return std::string(text::FolderOf(text::View(path)));
+}
+
+bool IsAtOrBelow(std::string_view folder, std::string_view above) {
+  return folder.starts_with(above) && (folder.size() == above.size() || folder[above.size()] == '\\');
+}
+
+// The deepest folder that holds both.
+std::string CommonFolder(std::string_view one, std::string_view other) {
+  while (!IsAtOrBelow(other, one)) one = text::FolderOf(one);
+  return std::string(one);
+}
+
+std::string ExistingFolder(std::string_view folder, std::string_view root) {
+  while (folder != root && !files::IsFolder(std::string(folder))) folder = text::FolderOf(folder);
+  return std::string(folder);
+}
+
+// For the root of each working copy the deepest folder that holds all its documents in the tree.
+std::map<std::string, std::string> FoldersByWorkingCopy(const CATBaseUnknown_var& product,
+                                                        WorkingCopyForms& forms) {
+  std::map<std::string, std::string> folders;
+  product::WalkProductTree(product, [&](const CATBaseUnknown_var& object) {
+    const product::ProductDocument document = product::ReachDocument(object);
+    const std::string folder = FolderOfDocument(document.Path);
+    const FolderForm& form = forms.Of(folder);
+    if (form.Kind == Form::Database) {
+      const auto [known, isNew] = folders.try_emplace(form.DatabaseRoot, folder);
+      if (!isNew) known->second = CommonFolder(known->second, folder);
+    }
+    return document.Exists();
+  });
+  return folders;
+}
+
+// The file of that name in the report of one file, which stands under a path of the client's own writing.
+const ReportedFile* FindByName(const ReportedFiles& files, std::string_view name) {
+  for (const auto& [path, file] : files) {
+    if (text::NameOf(path) == name) return &file;
+  }
+  return nullptr;
+}
+
+ZRKCVSStatus RecordOf(const ReportedFile* file) {
+  ZRKCVSStatus record;
+  if (file && file->IsVersioned()) FillRecord(*file, record);
+  return record;
+}
+
+}  // namespace
+
+std::int32_t RefreshDatabaseTree(const SVNContext& context, const CATBaseUnknown_var& product,
+                                 SVNTimes& times) {
+  WorkingCopyForms forms;
+  ReportedFiles files;
+  for (const auto& [root, folder] : FoldersByWorkingCopy(product, forms)) {
+    ReadStatusOfFolder(context, ExistingFolder(folder, root), times, files);
+  }
+
+  const tools::RunClock clock;
+  // Those of the text form are asked about one by one, within the walk.
+  SVNTimes ofTextForm;
+  product::WalkProductTree(product, [&](const CATBaseUnknown_var& object) {
+    const product::ProductDocument document = product::ReachDocumentOrClear(object, context.AttributeClass);
+    if (!document.Exists()) return false;
+    if (forms.Of(FolderOfDocument(document.Path)).Kind == Form::Text) {
+      RefreshInTree(context, object, document.Path, ofTextForm);
+    } else {
+      const auto file = files.find(std::string(text::View(document.Path)));
+      const ZRKCVSStatus record = RecordOf(file == files.end() ? nullptr : &file->second);
+      ShowOnProduct(context, object, record, TreeComment(record));
+    }
+    return true;
+  });
+  times.StatusCheck += ofTextForm.StatusCheck;
+  times.XMLParsing += ofTextForm.XMLParsing;
+  times.Attributing += static_cast<double>(clock.Elapsed()) - ofTextForm.StatusCheck - ofTextForm.XMLParsing;
+  return 0;
+}
+
+std::int32_t RefreshDatabaseDocument(const SVNContext& context, const CATBaseUnknown_var& product) {
+  const product::ProductDocument document = product::ReachDocumentOrClear(product, context.AttributeClass);
+  if (!document.Exists()) return 0;
+  const std::string_view path = text::View(document.Path);
+  const ReportedFiles files = ReadStatusOfFile(context, path);
+  const ZRKCVSStatus record = RecordOf(FindByName(files, text::NameOf(path)));
+  ShowOnProduct(context, product, record, SingleComment(record));
+  return 0;
+}
+
+void QueryDatabaseFile(const SVNContext& context, const CATUnicodeString& path, ZRKCVSStatus& record) {
+  const std::string name(text::NameOf(text::View(path)));
+  const ReportedFiles files = ReadStatusOfFile(context, text::View(path));
+  const ReportedFile* const file = FindByName(files, name);
+  if (!file) return;
+  record.File = name.c_str();
+  record.Status = file->Item.c_str();
+  if (file->IsVersioned()) FillRecord(*file, record);
+}
+
+}  // namespace zrk::svn
