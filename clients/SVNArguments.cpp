@@ -118,22 +118,22 @@ std::string Closed(const std::string& path) {
 
 }  // namespace
 
-SVNCall TranslateSVNCall(const std::vector<std::string>& arguments) {
+std::vector<std::string> TranslateSVNArguments(const std::vector<std::string>& arguments) {
   const std::vector<Argument> parsed = Parse(arguments);
   const bool isForToday = IsForTodaysClient(parsed);
   const bool dropMessage = !isForToday && IsDeletionOfPaths(parsed);
 
-  SVNCall call;
-  if (!isForToday) call.Arguments = {kNonInteractive};
+  std::vector<std::string> translated;
+  if (!isForToday) translated = {kNonInteractive};
   for (const Argument& argument : parsed) {
     if (dropMessage && argument.ItsRole == Role::Message) continue;
     if (argument.ItsRole == Role::Path) {
-      call.Paths.push_back(WithSlashes(argument.Text));
-      call.Arguments.push_back(isForToday ? call.Paths.back() : Closed(call.Paths.back()));
+      const std::string path = WithSlashes(argument.Text);
+      translated.push_back(isForToday ? path : Closed(path));
     } else {
-      call.Arguments.push_back(argument.Text);
+      translated.push_back(argument.Text);
     }
-    if (argument.Value) call.Arguments.push_back(*argument.Value);
+    if (argument.Value) translated.push_back(*argument.Value);
   }
-  return call;
+  return translated;
 }

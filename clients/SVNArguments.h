@@ -3,19 +3,12 @@
 #include <string>
 #include <vector>
 
-// A run of the Subversion client.
-struct SVNCall {
-  // Without the program's name.
-  std::vector<std::string> Arguments;
-  // The working copy paths among them, without the "@" that closes one.
-  std::vector<std::string> Paths;
-};
-
-// From a command line made for the Windows client to one for the Subversion of this system. One that says
-// "--non-interactive" itself is made for today's client: only the "\" in its paths become "/". In any other
+// From a command line made for the Windows client to one for the Subversion of this system, both without the
+// program's name. One that says "--non-interactive" itself is made for today's client: only the "\" in its
+// paths become "/". In any other
 //
 // - "--non-interactive" comes first: nobody sits in front of the client to type a password;
 // - "\" in a path becomes "/", and a path that holds "@" ends in "@": the client would take what follows
 //   its last "@" for a revision. URLs, option values and messages stay as they are;
 // - `delete` of paths loses its message, which the client takes for URLs only, where it commits at once.
-SVNCall TranslateSVNCall(const std::vector<std::string>& arguments);
+std::vector<std::string> TranslateSVNArguments(const std::vector<std::string>& arguments);

@@ -6,10 +6,9 @@
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 std::vector<std::string> Translated(const std::vector<std::string>& arguments) {
-  return TranslateSVNCall(arguments).Arguments;
+  return TranslateSVNArguments(arguments);
 }
 
 TEST(SVNArguments, AskForNothingInteractively) {
@@ -78,17 +77,6 @@ TEST(SVNArguments, TakeTheNameOfThatOptionForAPathBehindTwoHyphens) {
 
 TEST(SVNArguments, StandAnOptionWithoutItsValue) {
   EXPECT_THAT(Translated({"lock", "-m"}), ElementsAre("--non-interactive", "lock", "-m"));
-}
-
-TEST(SVNArguments, TellThePathsWithoutTheSignThatClosesThem) {
-  EXPECT_THAT(TranslateSVNCall({"status", "-v", "a\\b@c", "d@", "svn://host/e"}).Paths,
-              ElementsAre("a/b@c", "d@"));
-}
-
-TEST(SVNArguments, TellNeitherTheCommandNorOptionsNorTheirValuesForPaths) {
-  EXPECT_THAT(TranslateSVNCall({"--config-dir", "a", "lock", "-m", "note", "--force", "file"}).Paths,
-              ElementsAre("file"));
-  EXPECT_THAT(TranslateSVNCall({"status", "-v", "-u", "--xml"}).Paths, IsEmpty());
 }
 
 }  // namespace

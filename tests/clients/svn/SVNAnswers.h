@@ -13,6 +13,7 @@ struct SVNAnswer {
   bool LockedHere = false;
   // Whoever has the lock in the repository; empty when nobody has.
   std::string LockOwner;
+  std::string LockComment;
 };
 
 // Asks the installed client itself about all files and folders of a working copy of the repository's root.

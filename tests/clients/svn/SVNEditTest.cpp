@@ -29,7 +29,8 @@ TEST_F(SVNEdit, UpdatesAndLocks) {
   const Json report = Anna({"edit " + wheelProduct});
   EXPECT_EQ(CommandOf(report).at("result"), 0);
   EXPECT_THAT(CommandLines(report),
-              ElementsAre(" update " + Sent(wheel), " lock " + Sent(wheel), " status -v -u " + Sent(wheel)));
+              ElementsAre(" update --non-interactive " + Sent(wheel),
+                          " lock --non-interactive " + Sent(wheel), kTreeStatus + (" " + Sent(wheel))));
   EXPECT_EQ(ReadFile(annasCopy_ / wheel), "newer\n");
   EXPECT_THAT(Info(), HasSubstr("Lock Owner: anna\n"));
   EXPECT_EQ(AttributesByFile(report, annasCopy_).at(wheel),
@@ -48,7 +49,8 @@ TEST_F(SVNEdit, IsGivenBackForTheOtherUserToTake) {
   Anna({"edit " + wheelProduct});
   const Json report = Anna({"unedit " + wheelProduct});
   EXPECT_EQ(CommandOf(report).at("result"), 0);
-  EXPECT_THAT(CommandLines(report), ElementsAre(" unlock " + Sent(wheel), " status -v -u " + Sent(wheel)));
+  EXPECT_THAT(CommandLines(report),
+              ElementsAre(" unlock --non-interactive " + Sent(wheel), kTreeStatus + (" " + Sent(wheel))));
   EXPECT_THAT(Info(), Not(HasSubstr("Lock Owner")));
   EXPECT_EQ(AttributesByFile(report, annasCopy_).at(wheel),
             Json({{"Revision", "1"}, {"Status", "ReadOnly"}, {"Release", ""}, {"Comment", "\n"}}));
@@ -71,7 +73,7 @@ TEST_F(SVNEdit, LeavesTheLockToWhoeverHasIt) {
 TEST_F(SVNEdit, SchedulesADeletion) {
   const Json report = Anna({"delete \"" + (annasCopy_ / wheel).string() + "\""});
   EXPECT_EQ(CommandOf(report).at("result"), 0);
-  EXPECT_THAT(CommandLines(report), ElementsAre(" delete -m\"zq\" --force  " + Sent(wheel)));
+  EXPECT_THAT(CommandLines(report), ElementsAre(" delete --force --non-interactive " + Sent(wheel)));
   EXPECT_FALSE(std::filesystem::exists(annasCopy_ / wheel));
   EXPECT_EQ(repository_.Run({"status", (annasCopy_ / wheel).string()}),
             "D       " + (annasCopy_ / wheel).string() + "\n");
@@ -86,7 +88,7 @@ TEST_F(SVNEdit, RefusesARemovalFromTheOtherSystem) {
 TEST_F(SVNEdit, ComesToItsEndWithoutAClient) {
   anna_.Set("PATH", folder_.Path().string());
   const Json report = Anna({"edit " + wheelProduct});
-  EXPECT_EQ(AttributesByFile(report, annasCopy_).at(wheel).at("Status"), "ReadOnly");
+  EXPECT_EQ(AttributesByFile(report, annasCopy_).at(wheel), nullptr);
   const CommandResult word = anna_.Adapter("svn.exe", {"lock", folder_.Host(annasCopy_ / wheel)});
   EXPECT_THAT(word.Output, StartsWith("svn.exe: the program \"svn\" is not on the PATH"));
 }

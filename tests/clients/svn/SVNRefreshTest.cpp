@@ -3,21 +3,20 @@
 
 namespace {
 
-using testing::Each;
 using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::Not;
 using testing::SizeIs;
 
 const std::string car = "Auto größe.CATProduct";
 
 Json AttributesFromClient(const SVNAnswer& answer) {
   const char* unlocked = answer.LockOwner.empty() ? "ReadOnly" : "Locked";
-  return {
-      {"Revision", answer.Revision},
-      {"Status", answer.LockedHere ? "Edit" : unlocked},
-      {"Release", ""},
-      {"Comment", answer.LockOwner.empty() ? "" : "Locked by: \n" + answer.LockOwner + "\n-------------\n"}};
+  const std::string comment = answer.LockOwner.empty() ? ""
+                                                       : "Locked by: \n" + answer.LockOwner +
+                                                             "\n-------------\n" + answer.LockComment;
+  return {{"Revision", answer.Revision},
+          {"Status", answer.LockedHere ? "Edit" : unlocked},
+          {"Release", ""},
+          {"Comment", comment}};
 }
 
 class SVNRefresh : public SVNWorkingCopies {
@@ -47,7 +46,6 @@ TEST_F(SVNRefresh, GivesEveryFileOfATreeTheAttributesThatTheClientTells) {
   repository_.Lock(annasCopy_ / car, "anna");
   const std::string unknown = "Tür links/kein Teil.CATPart";
   WriteFile(annasCopy_ / unknown, "unknown\n");
-  TellEntries(anna_, annasCopy_);
 
   const Json report = Anna({"refresh"});
   const auto attributes = AttributesByFile(report, annasCopy_);
@@ -65,42 +63,17 @@ TEST_F(SVNRefresh, GivesEveryFileOfATreeTheAttributesThatTheClientTells) {
   EXPECT_EQ(attributes.at(unknown), nullptr);
 }
 
-TEST_F(SVNRefresh, AsksTwiceAboutEveryFile) {
+TEST_F(SVNRefresh, AsksOnceAboutTheWholeTree) {
   CheckOutWheel();
   const std::vector<Json> launches = EventsOf(CommandOf(Anna({"refresh"})), "launch");
-  EXPECT_THAT(TextsOf(launches, "commandLine"),
-              ElementsAre(" status -v -u " + Sent(car), " status -v -u --xml " + Sent(car),
-                          " status -v -u " + Sent(wheel_), " status -v -u --xml " + Sent(wheel_)));
-  // The last document that was examined decides.
-  EXPECT_THAT(TextsOf(launches, "folder"), Each(folder_.Host(annasCopy_ / "Räder vorn")));
+  EXPECT_THAT(TextsOf(launches, "commandLine"), ElementsAre(kTreeStatus));
+  EXPECT_THAT(TextsOf(launches, "folder"), ElementsAre(folder_.Host(annasCopy_)));
 }
 
-TEST_F(SVNRefresh, RestsOnReportsWithTheMarkOfAForeignLockAndItsOwner) {
+TEST_F(SVNRefresh, LeavesNoAttributesWithoutAClient) {
   CheckOutWheel();
-  const std::string sent = folder_.Host(annasCopy_ / wheel_);
-  EXPECT_THAT(anna_.Adapter("svn.exe", {"status", "-v", "-u", sent}).Output, Not(HasSubstr(" O ")));
-  repository_.Lock(bensCopy_ / wheel_, "ben");
-  EXPECT_THAT(anna_.Adapter("svn.exe", {"status", "-v", "-u", sent}).Output, HasSubstr(" O "));
-  EXPECT_THAT(anna_.Adapter("svn.exe", {"status", "-v", "-u", "--xml", sent}).Output,
-              HasSubstr("<owner>ben</owner>"));
-}
-
-TEST_F(SVNRefresh, NamesTheFirstOwnerOfALockThatWasTaken) {
-  CheckOutWheel();
-  Anna({"edit \"" + car + "/" + wheel_ + "\""});
-  repository_.Run({"lock", "--force", (bensCopy_ / wheel_).string()}, "ben");
-  // The report names the owner that this working copy knows of, and then the one of the repository.
-  const Json attributes = AttributesByFile(Anna({"refresh"}), annasCopy_).at(wheel_);
-  EXPECT_EQ(attributes.at("Status"), "Edit");
-  EXPECT_EQ(attributes.at("Comment"), "Locked by: \nanna\n-------------\n");
-}
-
-TEST_F(SVNRefresh, TellsWhatTheEntriesHoldWithoutAClient) {
-  CheckOutWheel();
-  repository_.Lock(bensCopy_ / wheel_, "ben");
   anna_.Set("PATH", folder_.Path().string());
-  const Json attributes = AttributesByFile(Anna({"refresh"}), annasCopy_).at(wheel_);
-  EXPECT_EQ(attributes, Json({{"Revision", "1"}, {"Status", "ReadOnly"}, {"Release", ""}, {"Comment", ""}}));
+  EXPECT_EQ(AttributesByFile(Anna({"refresh"}), annasCopy_).at(wheel_), nullptr);
 }
 
 }  // namespace

@@ -11,7 +11,7 @@
 #include "support/SVNRepository.h"
 #include "support/TemporaryFolder.h"
 
-// A repository and a working copy of it for Anna and for Ben, with the texts of their entries.
+// A repository and a working copy of it for Anna and for Ben.
 class SVNWorkingCopies : public testing::Test {
 protected:
   void CheckOut(const std::map<std::string, std::string>& files) {
@@ -19,20 +19,12 @@ protected:
     const std::string some = repository_.URL() + "/" + files.begin()->first;
     for (const User* user : {&anna_, &ben_}) user->SignOn(some + "@");
     for (const auto& copy : {annasCopy_, bensCopy_}) repository_.Checkout(copy);
-    TellEntries(anna_, annasCopy_);
-    TellEntries(ben_, bensCopy_);
   }
 
   // No client is left behind, whatever the test did.
   void TearDown() override {
     EXPECT_TRUE(anna_.WaitUntilNoProcessIsLeft());
     EXPECT_TRUE(ben_.WaitUntilNoProcessIsLeft());
-  }
-
-  // What a user does once, and after work with a client that knows nothing of the texts.
-  static void TellEntries(const User& user, const std::filesystem::path& copy) {
-    const CommandResult result = user.Adapter("svn.exe", {"status", copy.string()});
-    EXPECT_EQ(result.Status, 0) << result.Output;
   }
 
   // The report of commands on the files of the working copy.
@@ -45,6 +37,8 @@ protected:
 
   // The path as the component sends it to the client.
   std::string Sent(const std::string& file) const { return '"' + folder_.Host(annasCopy_ / file) + '"'; }
+
+  static constexpr const char* kTreeStatus = " status -v -u --xml --non-interactive --ignore-externals";
 
   TemporaryFolder folder_;
   SVNRepository repository_{folder_ / "repository"};
