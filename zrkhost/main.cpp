@@ -1,22 +1,22 @@
 #include <exception>
 #include <memory>
 
-#include "CallError.h"
-#include "CommandLine.h"
-#include "CommandSource.h"
-#include "Console.h"
-#include "Encoding.h"
-#include "EventLog.h"
-#include "ExitStatus.h"
-#include "FolderSession.h"
-#include "HostSession.h"
-#include "OutputCapture.h"
-#include "Plugin.h"
-#include "Report.h"
-#include "SessionFile.h"
-#include "Surroundings.h"
-#include "Terminal.h"
-#include "User.h"
+#include "base/CallError.h"
+#include "base/Encoding.h"
+#include "call/CommandLine.h"
+#include "call/CommandSource.h"
+#include "call/ExitStatus.h"
+#include "call/Surroundings.h"
+#include "plugin/Plugin.h"
+#include "report/EventLog.h"
+#include "report/Report.h"
+#include "run/Console.h"
+#include "session/FolderSession.h"
+#include "session/HostSession.h"
+#include "session/SessionFile.h"
+#include "terminal/OutputCapture.h"
+#include "terminal/Terminal.h"
+#include "terminal/User.h"
 
 namespace {
 

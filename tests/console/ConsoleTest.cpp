@@ -1,4 +1,4 @@
-#include "ConsoleTest.h"
+#include "console/ConsoleTest.h"
 
 #include "support/Files.h"
 #include "support/Platform.h"

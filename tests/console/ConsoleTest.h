@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "ProgramRun.h"
+#include "console/ProgramRun.h"
 #include "support/EnvironmentVariable.h"
 #include "support/TemporaryFolder.h"
 

@@ -6,7 +6,7 @@
 #include <cerrno>
 #include <system_error>
 
-#include "ProgramRun.h"
+#include "console/ProgramRun.h"
 #include "support/Files.h"
 #include "support/TemporaryFolder.h"
 

@@ -1,4 +1,4 @@
-#include "ProgramRun.h"
+#include "console/ProgramRun.h"
 
 #include <windows.h>
 

@@ -3,9 +3,9 @@
 #include <nlohmann/json.hpp>
 #include <set>
 
-#include "CallError.h"
-#include "SessionFile.h"
+#include "base/CallError.h"
 #include "fuzz/Fuzzing.h"
+#include "session/SessionFile.h"
 
 namespace {
 

@@ -1,0 +1,62 @@
+#include "console/ConsoleTest.h"
+#include "support/Files.h"
+
+namespace {
+
+using testing::HasSubstr;
+
+// Calls with files and folders that only this system has.
+class CallOnPosix : public ConsoleTest {
+protected:
+  static void ExpectRefused(const ProgramResult& result, const std::string& what) {
+    EXPECT_EQ(result.Status, 2);
+    EXPECT_THAT(result.Error, HasSubstr(what));
+    EXPECT_EQ(result.Output, "");
+  }
+};
+
+// A file that can be opened, but not read where it begins.
+constexpr const char* kUnreadable = "/proc/self/mem";
+
+TEST_F(CallOnPosix, NamesAFileOfWhichReadingFails) {
+  ExpectRefused(Zrkhost({kUnreadable, "-c", "tree"}), "/proc/self/mem: cannot be read");
+  ExpectRefused(Zrkhost({CarSession(), "-c", "tree", "--commands", kUnreadable}),
+                "/proc/self/mem: cannot be read");
+}
+
+TEST_F(CallOnPosix, TellsThatReadingStandardInputFails) {
+  for (const char* arguments : {"", "-c tree --commands -"}) {
+    const auto script = Program().string() + " '" + CarSession() + "' " + arguments + " <'" + Path("") + "'";
+    ExpectRefused(RunProgram("/bin/sh", {"-c", script}), "standard input: cannot be read");
+  }
+}
+
+TEST_F(CallOnPosix, TakesAnEmptyFileOfCommands) {
+  EXPECT_EQ(Zrkhost({CarSession(), "--commands", "/dev/null"}).Status, 0);
+}
+
+TEST_F(CallOnPosix, RefusesAClientsFolderThatPATHWouldSplit) {
+  std::filesystem::create_directory(folder_ / "cl:x");
+  ExpectRefused(Zrkhost({CarSession(), "--clients", Path("cl:x"), "-c", "tree"}),
+                "cl:x: cannot be put into PATH: its name holds the separator of folders");
+}
+
+TEST_F(CallOnPosix, RefusesAReportBehindALinkToTheSession) {
+  const auto session = CarSession();
+  std::filesystem::create_symlink(session, folder_ / "link.json");
+  ExpectRefused(Zrkhost({session, "-c", "tree", "--report", Path("link.json")}),
+                "link.json: the report would overwrite");
+}
+
+TEST_F(CallOnPosix, TakesADeviceForBothCommandsAndReport) {
+  EXPECT_EQ(Zrkhost({CarSession(), "--commands", "/dev/null", "--report", "/dev/null"}).Status, 0);
+}
+
+TEST_F(CallOnPosix, RefusesAFolderWithANameThatTheHostWouldSplit) {
+  WriteFile(folder_ / "wc/a\\b", "x");
+  ExpectRefused(Zrkhost({"--folder", Path("wc"), "-c", "tree"}), "wc/a\\b: the host would take the \"\\\"");
+  WriteFile(folder_ / "c\\d/a", "x");
+  ExpectRefused(Zrkhost({"--folder", Path("c\\d"), "-c", "tree"}), "c\\d/a: the host would take the \"\\\"");
+}
+
+}  // namespace

@@ -1,0 +1,63 @@
+#include "terminal/DisplayText.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using zrkhost::CutToWidth;
+using zrkhost::DisplayText;
+using zrkhost::DisplayWidth;
+using zrkhost::LineBreaks;
+
+TEST(DisplayText, LeavesReadableTextAsItIs) {
+  EXPECT_EQ(DisplayText("C:\\wc\\Tür 門.CATPart"), "C:\\wc\\Tür 門.CATPart");
+}
+
+TEST(DisplayText, EscapesControlCharacters) {
+  EXPECT_EQ(DisplayText("a\tb\r\nc"), "a\\tb\\r\\nc");
+  EXPECT_EQ(DisplayText("\x1b[31m\x07\x7f"), "\\x1b[31m\\x07\\x7f");
+  EXPECT_EQ(DisplayText(std::string_view("\0", 1)), "\\x00");
+  EXPECT_EQ(DisplayText("\u009b31m\u0085"), "\\u009b31m\\u0085");
+}
+
+TEST(DisplayText, EscapesWhatReordersALine) {
+  EXPECT_EQ(DisplayText("a\u202eb\u2028c"), "a\\u202eb\\u2028c");
+}
+
+TEST(DisplayText, EscapesBytesThatAreNoCharacter) {
+  EXPECT_EQ(DisplayText("\xff\xc3"), "\\xff\\xc3");
+  EXPECT_EQ(DisplayText("\xc0\x9b"), "\\xc0\\x9b");
+  EXPECT_EQ(DisplayText("\xed\xa0\x80"), "\\xed\\xa0\\x80");
+  EXPECT_EQ(DisplayText("\xf5\x80\x80\x80"), "\\xf5\\x80\\x80\\x80");
+}
+
+TEST(DisplayText, KeepsLineBreaksWhereTheyAreWanted) {
+  EXPECT_EQ(DisplayText("a\r\nb\nc\rd\x1b", LineBreaks::Keep), "a\nb\nc\\rd\\x1b");
+}
+
+TEST(DisplayWidth, CountsColumns) {
+  EXPECT_EQ(DisplayWidth(""), 0);
+  EXPECT_EQ(DisplayWidth("Tür"), 3);
+  EXPECT_EQ(DisplayWidth("門"), 2);
+  EXPECT_EQ(DisplayWidth("e\u0301"), 1);
+  EXPECT_EQ(DisplayWidth("\U0001F600"), 2);
+}
+
+TEST(CutToWidth, LeavesWhatFits) {
+  EXPECT_EQ(CutToWidth("abc", 3), "abc");
+  EXPECT_EQ(CutToWidth("", 0), "");
+}
+
+TEST(CutToWidth, EndsWithAnEllipsisWhatDoesNot) {
+  EXPECT_EQ(CutToWidth("abcd", 3), "ab…");
+  EXPECT_EQ(CutToWidth("abcd", 1), "…");
+  EXPECT_EQ(CutToWidth("abcd", 0), "");
+  EXPECT_EQ(CutToWidth("abcd", -5), "");
+}
+
+TEST(CutToWidth, CutsNoCharacterInTwo) {
+  EXPECT_EQ(CutToWidth("門門門", 4), "門…");
+  EXPECT_EQ(CutToWidth("üüü", 2), "ü…");
+}
+
+}  // namespace

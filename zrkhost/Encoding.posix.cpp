@@ -1,9 +1,0 @@
-#include "Encoding.h"
-
-namespace zrkhost {
-
-std::filesystem::path PathFromNative(const std::string& text) {
-  return text;
-}
-
-}  // namespace zrkhost

@@ -1,7 +1,0 @@
-#include "LaunchEvents.h"
-
-namespace zrkhost {
-
-void ListenToLaunches(std::function<void(const LaunchEvent&)>) {}
-
-}  // namespace zrkhost

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstdint>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <string>
+
+#include "plugin/Plugin.h"
+#include "session/HostSession.h"
+
+// The console's commands: what they are called, what they take, and what they call.
+namespace zrkhost {
+
+struct CommandKind;
+
+struct Command {
+  // As it was given.
+  std::string Line;
+  const CommandKind* Kind = nullptr;
+  // Absent: the root.
+  std::optional<std::string> ProductPath;
+  // Of a command that takes a file.
+  std::string File;
+  // Only of `status`: ask about the product itself, not about its reference.
+  bool Instance = false;
+};
+
+struct Outcome {
+  // Absent when the operation has none.
+  std::optional<std::int32_t> Result = {};
+  // Whether the result is an answer, so that 0 and 1 are both good.
+  bool IsAnswer = false;
+  // What `storage` was told.
+  std::optional<std::string> Text = {};
+  // What `status` was told, by field.
+  std::optional<nlohmann::ordered_json> Record = {};
+  // For a person, behind what the library itself wrote.
+  std::string Shown = {};
+  bool ShowTree = false;
+  bool Quit = false;
+
+  bool Failed() const { return Result && *Result != 0 && !IsAnswer; }
+};
+
+// Absent for a line without words. Throws CallError for an unknown command or arguments that it does not
+// take.
+std::optional<Command> ParseCommand(const std::string& line);
+
+// Throws CallError when the command is about a product that is not in the tree.
+void CheckProduct(const Command& command, const HostSession& session);
+
+// Throws when the product lacks an interface of the component.
+Outcome RunCommand(const Command& command, const HostSession& session, const Plugin& plugin);
+
+// Every command with its arguments and what it does, a line each.
+std::string CommandsHelp();
+
+}  // namespace zrkhost
