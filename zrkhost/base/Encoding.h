@@ -12,6 +12,12 @@ namespace zrkhost {
 std::string Utf8FromWide(std::wstring_view text);
 std::string Utf8FromNative(std::string_view text);
 
+// The characters of a UTF-8 text in order. A byte B that is no part of one becomes U+DC00 + B, which no
+// well-formed text holds.
+std::u32string CharactersFromUtf8(std::string_view text);
+// The way back; only for characters that are some.
+std::string Utf8FromCharacters(std::u32string_view characters);
+
 std::filesystem::path PathFromNative(const std::string& text);
 std::filesystem::path PathFromUtf8(std::string_view text);
 // For people to read, and for names that are made from paths.

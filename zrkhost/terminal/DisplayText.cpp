@@ -3,36 +3,18 @@
 #include <algorithm>
 #include <array>
 
+#include "base/Encoding.h"
 #include "base/Hexadecimal.h"
 
 namespace zrkhost {
 
 namespace {
 
-constexpr char32_t kInvalid = 0xFFFFFFFF;
+// Where CharactersFromUtf8 puts a byte that is no part of a character.
+constexpr char32_t kBytes = 0xDC00;
 
-// The first character of a text that is not empty, and how many bytes it takes; kInvalid and 1 when the bytes
-// there are no character.
-struct Decoded {
-  char32_t Character = kInvalid;
-  std::size_t Size = 1;
-};
-
-Decoded DecodeFirst(std::string_view text) {
-  const auto lead = static_cast<unsigned char>(text[0]);
-  if (lead < 0x80) return {lead, 1};
-  const std::size_t size = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-  if (lead < 0xC2 || lead > 0xF4 || text.size() < size) return {};
-  char32_t character = lead & (0xFFU >> (size + 1));
-  for (std::size_t i = 1; i < size; ++i) {
-    const auto next = static_cast<unsigned char>(text[i]);
-    if ((next & 0xC0) != 0x80) return {};
-    character = (character << 6) | (next & 0x3F);
-  }
-  constexpr std::array<char32_t, 5> kSmallest = {0, 0, 0x80, 0x800, 0x10000};
-  const bool surrogate = character >= 0xD800 && character < 0xE000;
-  if (character < kSmallest[size] || character > 0x10FFFF || surrogate) return {};
-  return {character, size};
+bool IsByte(char32_t character) {
+  return character >= kBytes && character <= kBytes + 0xFF;
 }
 
 struct Range {
@@ -91,6 +73,7 @@ int Columns(char32_t character) {
 }
 
 std::string Escape(char32_t character) {
+  if (IsByte(character)) return "\\x" + Hexadecimal(character - kBytes, 2);
   switch (character) {
     case '\n':
       return "\\n";
@@ -106,50 +89,41 @@ std::string Escape(char32_t character) {
 }  // namespace
 
 std::string DisplayText(std::string_view text, LineBreaks lineBreaks) {
-  std::string result;
-  result.reserve(text.size());
-  while (!text.empty()) {
-    const auto [character, size] = DecodeFirst(text);
-    const bool keep = lineBreaks == LineBreaks::Keep;
-    if (keep && text.starts_with("\r\n")) {
+  const auto characters = CharactersFromUtf8(text);
+  const bool keep = lineBreaks == LineBreaks::Keep;
+  std::u32string shown;
+  shown.reserve(characters.size());
+  for (std::size_t i = 0; i < characters.size(); ++i) {
+    const char32_t character = characters[i];
+    if (keep && character == '\r' && i + 1 < characters.size() && characters[i + 1] == '\n') {
       // The line feed follows.
-    } else if (keep && character == '\n') {
-      result += '\n';
-    } else if (character == kInvalid) {
-      result += "\\x" + Hexadecimal(static_cast<unsigned char>(text[0]), 2);
-    } else if (IsIn(kUnsafe, character)) {
-      result += Escape(character);
+    } else if (IsByte(character) || (IsIn(kUnsafe, character) && !(keep && character == '\n'))) {
+      const auto escape = Escape(character);
+      shown.append(escape.begin(), escape.end());
     } else {
-      result += text.substr(0, size);
+      shown += character;
     }
-    text.remove_prefix(size);
   }
-  return result;
+  return Utf8FromCharacters(shown);
 }
 
 int DisplayWidth(std::string_view text) {
   int width = 0;
-  while (!text.empty()) {
-    const auto [character, size] = DecodeFirst(text);
-    width += Columns(character);
-    text.remove_prefix(size);
-  }
+  for (const char32_t character : CharactersFromUtf8(text)) width += Columns(character);
   return width;
 }
 
 std::string CutToWidth(std::string_view text, int width) {
   if (DisplayWidth(text) <= width) return std::string(text);
   if (width <= 0) return {};
+  const auto characters = CharactersFromUtf8(text);
   int used = 0;
   std::size_t end = 0;
-  while (end < text.size()) {
-    const auto [character, size] = DecodeFirst(text.substr(end));
-    // One column is the ellipsis's.
-    if (used + Columns(character) > width - 1) break;
-    used += Columns(character);
-    end += size;
+  // One column is the ellipsis's.
+  while (end < characters.size() && used + Columns(characters[end]) <= width - 1) {
+    used += Columns(characters[end++]);
   }
-  return std::string(text.substr(0, end)) + "\u2026";
+  return Utf8FromCharacters({characters.data(), end}) + "\u2026";
 }
 
 }  // namespace zrkhost
