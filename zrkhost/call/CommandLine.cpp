@@ -3,7 +3,7 @@
 #include <CLI/CLI.hpp>
 
 #include "call/ExitStatus.h"
-#include "commands/Commands.h"
+#include "commands/CommandTable.h"
 
 namespace zrkhost {
 
@@ -17,11 +17,8 @@ std::string Footer() {
          "double quotes; # begins a comment):\n" +
          CommandsHelp() +
          "\n"
-         "For remove and delete FILE is a full path; a relative one is not made absolute.\n"
-         "delete runs the client in the folder of the product examined last: another file of that name may\n"
-         "be deleted. remove runs it in FILE's own folder, sought from the current one; for a bare name it\n"
-         "starts no client, removes nothing and still gives 0.\n"
-         "In Subversion refresh brings the whole tree up to date, whatever PATH says.\n"
+         "For remove and delete FILE is a full path, or is meant from the current folder.\n"
+         "refresh and status ask the manager of PATH; with --by-root that of the root.\n"
          "\n"
          "Exit status: 0 when every command gave result 0 or has none; 1 when a command gave another "
          "result;\n"

@@ -8,7 +8,8 @@
 #include "plugin/Plugin.h"
 #include "session/HostSession.h"
 
-// The console's commands: what they are called, what they take, and what they call.
+// The console's commands, as the rest of the program sees them. What they are called and what they take
+// stands in CommandTable, what they call in ManagerCommands and ProductCommands.
 namespace zrkhost {
 
 struct CommandKind;
@@ -21,6 +22,8 @@ struct Command {
   std::optional<std::string> ProductPath;
   // Of a command that takes a file.
   std::string File;
+  // Only of `refresh` and `status`: ask the manager of the root, not that of the product.
+  bool ByRoot = false;
   // Only of `status`: ask about the product itself, not about its reference.
   bool Instance = false;
 };
@@ -51,8 +54,5 @@ void CheckProduct(const Command& command, const HostSession& session);
 
 // Throws when the product lacks an interface of the component.
 Outcome RunCommand(const Command& command, const HostSession& session, const Plugin& plugin);
-
-// Every command with its arguments and what it does, a line each.
-std::string CommandsHelp();
 
 }  // namespace zrkhost

@@ -74,7 +74,7 @@ TEST_F(Call, PrintsItsVersionAndHelp) {
   EXPECT_EQ(help.Status, 0);
   for (const char* told :
        {"SESSION", "--folder", "--root", "-c ", "--commands", "--answer", "--verbose", "--report", "--plugin",
-        "--clients", "refresh", "status", "unedit", "FILE is a full path", "Exit status"}) {
+        "--clients", "refresh", "status", "unedit", "meant from the current folder", "Exit status"}) {
     EXPECT_THAT(help.Output, HasSubstr(told));
   }
 }

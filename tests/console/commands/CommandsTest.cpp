@@ -5,6 +5,7 @@
 
 #include "base/CallError.h"
 #include "base/Encoding.h"
+#include "commands/CommandTable.h"
 
 namespace {
 
@@ -53,6 +54,31 @@ TEST(Commands, AskAboutAnInstanceOnlyInStatus) {
   EXPECT_EQ(ParseCommand("status --instance car")->ProductPath, "car");
   EXPECT_TRUE(ParseCommand("status --instance")->Instance);
   EXPECT_THROW(ParseCommand("edit --instance car"), CallError);
+}
+
+TEST(Commands, AskTheManagerOfTheRootOnlyInRefreshAndStatus) {
+  EXPECT_FALSE(ParseCommand("refresh car")->ByRoot);
+  EXPECT_TRUE(ParseCommand("refresh --by-root car")->ByRoot);
+  EXPECT_TRUE(ParseCommand("status --by-root")->ByRoot);
+  EXPECT_THROW(ParseCommand("edit --by-root car"), CallError);
+}
+
+TEST(Commands, TakeTheirOptionsBeforeOrBehindTheArgument) {
+  for (const char* line : {"status --instance --by-root car", "status car --by-root --instance",
+                           "status --by-root car --instance"}) {
+    const auto command = ParseCommand(line);
+    EXPECT_TRUE(command->Instance && command->ByRoot) << line;
+    EXPECT_EQ(command->ProductPath, "car") << line;
+  }
+}
+
+TEST(Commands, RefuseOptionsThatTheyDoNotHave) {
+  try {
+    ParseCommand("refresh --byroot car");
+    FAIL();
+  } catch (const CallError& error) {
+    EXPECT_STREQ(error.what(), "unknown option \"--byroot\"; use: refresh [--by-root] [PATH]");
+  }
 }
 
 TEST(Commands, TakeAQuotedOptionForAPath) {

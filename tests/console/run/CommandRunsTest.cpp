@@ -1,4 +1,5 @@
 #include "console/ConsoleTest.h"
+#include "console/CurrentFolder.h"
 #include "core/HostPath.h"
 #include "support/CVSFolder.h"
 #include "support/Files.h"
@@ -123,6 +124,58 @@ TEST_F(CommandRuns, StatusReportsEveryFieldOfTheRecord) {
   EXPECT_EQ(CommandOf(report, 0)["record"], expected);
 }
 
+// An axle from another repository than the car's.
+class CommandsOfTwoWorkingCopies : public CommandRuns {
+protected:
+  CommandsOfTwoWorkingCopies() {
+    WriteFile(folder_ / "parts/axle.CATPart", "axle");
+    WriteCVSFolder(folder_ / "parts", "/cvs/parts", "parts");
+  }
+
+  std::string TwoRepositories() const {
+    return Session(R"({"root": "car", "products": {
+        "car": {"document": "proj/car.CATProduct", "children": [{"name": "axle.1", "reference": "axle"}]},
+        "axle": {"document": "parts/axle.CATPart"}}})");
+  }
+
+  // The repository that each run of the client was sent to by this command.
+  std::vector<std::string> RepositoriesOf(const std::string& command) {
+    client_.ClearRuns();
+    Zrkhost({TwoRepositories(), "-c", command});
+    std::vector<std::string> repositories;
+    for (const auto& run : client_.Runs()) repositories.push_back(run.Arguments.at(1));
+    return repositories;
+  }
+};
+
+TEST_F(CommandsOfTwoWorkingCopies, RefreshAsksTheManagerOfTheProduct) {
+  EXPECT_THAT(RepositoriesOf("refresh car/axle.1"), ElementsAre("/cvs/parts", "/cvs/parts"));
+  EXPECT_THAT(RepositoriesOf("refresh"), ElementsAre("/cvs/root", "/cvs/root"));
+}
+
+TEST_F(CommandsOfTwoWorkingCopies, RefreshAsksTheManagerOfTheRootByRoot) {
+  EXPECT_THAT(RepositoriesOf("refresh --by-root car/axle.1"), ElementsAre("/cvs/root", "/cvs/root"));
+}
+
+TEST_F(CommandsOfTwoWorkingCopies, StatusAsksTheManagerOfTheProduct) {
+  EXPECT_THAT(RepositoriesOf("status car/axle.1"), ElementsAre("/cvs/parts"));
+  EXPECT_THAT(RepositoriesOf("status --by-root car/axle.1"), ElementsAre("/cvs/root"));
+}
+
+TEST_F(CommandRuns, RefreshInSubversionTakesThePartOfTheTreeThatIsNamed) {
+  WriteFile(folder_ / "wc/.svn/entries", "10\n");
+  const auto session = Session(R"({"root": "car", "products": {
+      "car": {"document": "wc/car.CATProduct", "attributes": {"Status": "Edit"},
+              "children": [{"name": "axle.1", "reference": "axle", "attributes": {"Status": "Edit"}}]},
+      "axle": {"document": "wc/axle.CATPart"}}})");
+  // A document that the entries do not list loses its attributes when it is refreshed.
+  const auto part = Report({session, "-c", "refresh car/axle.1"});
+  EXPECT_NE(part["products"][0]["attributes"], nullptr);
+  EXPECT_EQ(part["products"][1]["attributes"], nullptr);
+  const auto whole = Report({session, "-c", "refresh car/axle.1 --by-root"});
+  EXPECT_EQ(whole["products"][0]["attributes"], nullptr);
+}
+
 TEST_F(CommandRuns, EditWorksOnTheProductThatIsNamed) {
   client_.When("status -v").Out(StatusBlock("axle.CATPart", "1.7"));
   const auto report = Report({Assembly(), "-c", "edit car/axle.1"});
@@ -213,21 +266,25 @@ TEST_F(CommandRuns, RemoveGivesTheFileAsItIsButForItsSeparators) {
   EXPECT_EQ(runs[0].Folder, Host("proj"));
 }
 
-TEST_F(CommandRuns, RemoveDoesNotMakeAFileAbsolute) {
-  const auto result = Zrkhost({Assembly(), "-c", "remove axle.CATPart"});
-  EXPECT_EQ(result.Status, 0) << result.Error;
-  EXPECT_TRUE(client_.Runs().empty());
-}
-
-TEST_F(CommandRuns, DeleteDoesNotMakeAFileAbsolute) {
-  WriteFile(folder_ / "wc/.svn/entries", "");
-  const auto session = Session(R"({"root": "car", "products": {"car": {"document": "wc/car.CATProduct"}}})");
-  const auto result = Zrkhost({session, "-c", "delete sub/axle.CATPart"});
+TEST_F(CommandRuns, RemoveMeansARelativeFileFromTheCurrentFolder) {
+  const CurrentFolder current(folder_ / "proj");
+  const auto result = Zrkhost({Assembly(), "-c", "remove sub/../axle.CATPart"});
   EXPECT_EQ(result.Status, 0) << result.Error;
   const auto runs = client_.Runs();
   ASSERT_EQ(runs.size(), 1u);
-  EXPECT_EQ(runs[0].Folder, Host("wc"));
-  EXPECT_THAT(runs[0].Arguments, ElementsAre("delete", "-mzq", "--force", "sub\\axle.CATPart"));
+  EXPECT_THAT(runs[0].Joined(), EndsWith("remove -f axle.CATPart"));
+  EXPECT_EQ(runs[0].Folder, Host("proj"));
+}
+
+TEST_F(CommandRuns, DeleteMeansARelativeFileFromTheCurrentFolder) {
+  WriteFile(folder_ / "wc/.svn/entries", "");
+  const auto session = Session(R"({"root": "car", "products": {"car": {"document": "wc/car.CATProduct"}}})");
+  const CurrentFolder current(folder_ / "proj");
+  const auto result = Zrkhost({session, "-c", "delete \"..\\wc\\sub/axle.CATPart\""});
+  EXPECT_EQ(result.Status, 0) << result.Error;
+  const auto runs = client_.Runs();
+  ASSERT_EQ(runs.size(), 1u);
+  EXPECT_THAT(runs[0].Arguments, ElementsAre("delete", "-mzq", "--force", Host("wc/sub/axle.CATPart")));
 }
 
 TEST_F(CommandRuns, StorageTellsThePathOfAnInstancesReference) {
@@ -273,7 +330,8 @@ TEST_F(CommandRuns, ShareOneSession) {
 }
 
 TEST_F(CommandRuns, HelpListsTheCommands) {
-  EXPECT_THAT(Zrkhost({Assembly(), "-c", "help"}).Output, HasSubstr("  status [--instance] [PATH] "));
+  EXPECT_THAT(Zrkhost({Assembly(), "-c", "help"}).Output,
+              HasSubstr("  status [--by-root] [--instance] [PATH] "));
 }
 
 TEST_F(CommandRuns, TheLibrarysOutputComesInItsPlaceOnStandardOutput) {
