@@ -4,6 +4,7 @@
 #include "base/Encoding.h"
 #include "base/Hexadecimal.h"
 #include "commands/HostFile.h"
+#include "commands/ShownStatus.h"
 #include "commands/StatusRecordText.h"
 #include "session/ProductFacts.h"
 #include "terminal/DisplayText.h"
@@ -20,12 +21,13 @@ ZRKICVSManager_var Manager(const CommandCall& call) {
   return call.Given.ByRoot ? RootManager(call) : InterfaceOf<ZRKICVSManager>(call.Product);
 }
 
-Outcome WithResult(const CommandCall& call, HRESULT result) {
+// `now`: what the product shows behind the command.
+Outcome WithResult(const CommandCall& call, HRESULT result, const std::string& now = "") {
   Outcome outcome;
   outcome.Result = result;
   const auto shown =
       result < 0 ? "0x" + Hexadecimal(static_cast<std::uint32_t>(result)) : std::to_string(result);
-  outcome.Shown = DisplayText(Utf8FromNative(call.Given.Line)) + ": result " + shown + "\n";
+  outcome.Shown = DisplayText(Utf8FromNative(call.Given.Line)) + ": result " + shown + now + "\n";
   return outcome;
 }
 
@@ -53,11 +55,13 @@ Outcome RunStatus(const CommandCall& call) {
 }
 
 Outcome RunEdit(const CommandCall& call) {
-  return WithResult(call, Manager(call)->Edit());
+  const HRESULT result = Manager(call)->Edit();
+  return WithResult(call, result, ShownStatus(AttributesOf(call.Product)));
 }
 
 Outcome RunUnedit(const CommandCall& call) {
-  return WithResult(call, Manager(call)->Unedit());
+  const HRESULT result = Manager(call)->Unedit();
+  return WithResult(call, result, ShownStatus(AttributesOf(call.Product)));
 }
 
 Outcome RunRemove(const CommandCall& call) {

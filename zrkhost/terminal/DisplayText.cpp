@@ -107,6 +107,26 @@ std::string DisplayText(std::string_view text, LineBreaks lineBreaks) {
   return Utf8FromCharacters(shown);
 }
 
+std::string OneLine(std::string_view text) {
+  constexpr std::string_view kBlanks = " \t\r";
+  std::string result;
+  bool ruled = false;
+  while (!text.empty()) {
+    auto line = text.substr(0, text.find('\n'));
+    text.remove_prefix(std::min(text.size(), line.size() + 1));
+    line.remove_prefix(std::min(line.size(), line.find_first_not_of(kBlanks)));
+    line = line.substr(0, line.find_last_not_of(kBlanks) + 1);
+    if (line.find_first_not_of('-') == std::string_view::npos) {
+      ruled = ruled || !line.empty();
+      continue;
+    }
+    if (!result.empty()) result += ruled ? " - " : " ";
+    result += DisplayText(line);
+    ruled = false;
+  }
+  return result;
+}
+
 int DisplayWidth(std::string_view text) {
   int width = 0;
   for (const char32_t character : CharactersFromUtf8(text)) width += Columns(character);

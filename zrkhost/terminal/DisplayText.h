@@ -13,6 +13,10 @@ enum class LineBreaks { Escape, Keep };
 // text is UTF-8; bytes that are not are escaped too.
 std::string DisplayText(std::string_view text, LineBreaks lineBreaks = LineBreaks::Escape);
 
+// The lines of a text on one, as DisplayText gives them: without the blanks around each, a blank between two.
+// Lines of nothing are left out; of a line that is ruled with "-" one "-" stays, but none at either end.
+std::string OneLine(std::string_view text);
+
 // Columns that a text of DisplayText takes on a terminal.
 int DisplayWidth(std::string_view text);
 

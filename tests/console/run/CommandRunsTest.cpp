@@ -185,6 +185,19 @@ TEST_F(CommandRuns, EditWorksOnTheProductThatIsNamed) {
   EXPECT_THAT(client_.Runs().at(0).Joined(), HasSubstr("axle.CATPart"));
 }
 
+TEST_F(CommandRuns, EditEndsWithWhatTheProductShowsNow) {
+  ReportRevisions();
+  const auto free = Zrkhost({Assembly(), "-c", "refresh", "-c", "edit car/axle.1"});
+  EXPECT_THAT(free.Output, EndsWith("\nedit car/axle.1: result 0, now \"Edit\", revision 1.7\n"));
+  SetReadOnly(folder_ / "proj/axle.CATPart");
+  client_.When("-n edit").Out("proj/axle.CATPart\tben\tMon Mar  2 10:00:00 2020 GMT\thost\r\n");
+  const auto locked = Zrkhost({Assembly(), "-c", "refresh", "-c", "unedit \"car/axle.1\""});
+  EXPECT_THAT(
+      locked.Output,
+      EndsWith("\nunedit \"car/axle.1\": result 0x80004005, now \"Locked\" (proj/axle.CATPart ben Mon "
+               "Mar  2 10:00:00 2020 GMT host), revision 1.7\n"));
+}
+
 TEST_F(CommandRuns, EditShowsTheNoticeInTheSessionsOwnWords) {
   client_.When("update").Out("U car.CATProduct");
   const auto session = Session(R"({"documents": "proj", "root": "car",

@@ -176,13 +176,13 @@ TEST_F(TerminalQuestion, IsAnsweredNoByTheEndOfTheInput) {
 TEST_F(TerminalQuestion, IsAskedAfterCommandsThatWereTypedToTheirEnd) {
   const auto result = Type({session_, "--commands", "-"}, "unedit\n\x04y\n");
   EXPECT_EQ(result.Status, 0);
-  EXPECT_THAT(result.Screen, HasSubstr("unedit: result 0\r\n"));
+  EXPECT_THAT(result.Screen, HasSubstr("unedit: result 0, now \"Edit\"\r\n"));
 }
 
 TEST_F(TerminalQuestion, IsAllThatEndsWithTheEndOfTheInput) {
   const auto result = Type({session_}, "unedit\n\x04storage\nquit\n");
   EXPECT_EQ(result.Status, 1);
-  EXPECT_THAT(result.Screen, HasSubstr("unedit: result 1\r\n"));
+  EXPECT_THAT(result.Screen, HasSubstr("unedit: result 1, now \"Edit\"\r\n"));
   EXPECT_THAT(result.Screen, HasSubstr(Host("proj/car.CATProduct")));
 }
 
@@ -193,7 +193,7 @@ TEST_F(TerminalQuestion, IsNotAskedWhenTheCallHoldsTheAnswer) {
 TEST_F(TerminalQuestion, IsAskedBetweenCommands) {
   const auto result = Type({session_}, "unedit\ny\ncvsable\nquit\n");
   EXPECT_EQ(result.Status, 0);
-  EXPECT_THAT(result.Screen, HasSubstr("unedit: result 0\r\n"));
+  EXPECT_THAT(result.Screen, HasSubstr("unedit: result 0, now \"Edit\"\r\n"));
 }
 
 }  // namespace

@@ -8,6 +8,7 @@ using zrkhost::CutToWidth;
 using zrkhost::DisplayText;
 using zrkhost::DisplayWidth;
 using zrkhost::LineBreaks;
+using zrkhost::OneLine;
 
 TEST(DisplayText, LeavesReadableTextAsItIs) {
   EXPECT_EQ(DisplayText("C:\\wc\\Tür 門.CATPart"), "C:\\wc\\Tür 門.CATPart");
@@ -33,6 +34,22 @@ TEST(DisplayText, EscapesBytesThatAreNoCharacter) {
 
 TEST(DisplayText, KeepsLineBreaksWhereTheyAreWanted) {
   EXPECT_EQ(DisplayText("a\r\nb\nc\rd\x1b", LineBreaks::Keep), "a\nb\nc\\rd\\x1b");
+}
+
+TEST(OneLine, PutsABlankBetweenLines) {
+  EXPECT_EQ(OneLine("Locked by: \nben"), "Locked by: ben");
+  EXPECT_EQ(OneLine("a\r\n \n\n\tb c \n"), "a b c");
+  EXPECT_EQ(OneLine("\n"), "");
+  EXPECT_EQ(OneLine(""), "");
+}
+
+TEST(OneLine, ShortensRuledLinesAndLeavesThemOutAtTheEnds) {
+  EXPECT_EQ(OneLine("Locked by: \nben\n-------------\nweek 12"), "Locked by: ben - week 12");
+  EXPECT_EQ(OneLine("---\nben\n-------------\n"), "ben");
+}
+
+TEST(OneLine, EscapesControlCharacters) {
+  EXPECT_EQ(OneLine("a\x1b[2J\nb\rc"), "a\\x1b[2J b\\rc");
 }
 
 TEST(DisplayWidth, CountsColumns) {
