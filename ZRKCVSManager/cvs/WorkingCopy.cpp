@@ -11,6 +11,7 @@
 #include "files/TextFile.h"
 #include "product/ProductDocument.h"
 #include "svn/WorkingCopyForm.h"
+#include "text/Path.h"
 #include "text/Text.h"
 
 namespace zrk::cvs {
@@ -19,8 +20,7 @@ using text::Replaced;
 namespace {
 
 std::string FolderOf(const CATUnicodeString& documentPath) {
-  const std::string path = documentPath.ConvertToChar();
-  return path.substr(0, path.rfind('\\'));
+  return std::string(text::FolderOf(text::View(documentPath)));
 }
 
 std::string WithoutLineFeeds(std::string_view lines) {
@@ -34,9 +34,10 @@ bool ExamineForCVS(const CATUnicodeString& documentPath, const std::string& fold
                    WorkingCopy& workingCopy) {
   const std::optional<files::Text> repository = files::ReadText(folder + "\\CVS\\Repository");
   if (!repository) return false;
+  // No letter of two bytes holds a "/".
   const std::string repositoryPath = Replaced(WithoutLineFeeds(repository->View()), '/', '\\');
   const std::string path = documentPath.ConvertToChar();
-  const std::size_t below = path.find(repositoryPath);
+  const std::size_t below = text::Find(path, repositoryPath);
   workingCopy.SandboxRoot = below == std::string::npos ? "" : path.substr(0, below).c_str();
 
   if (const std::optional<files::Text> root = files::ReadText(folder + "\\CVS\\Root")) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "text/Characters.h"
+
 namespace standin {
 
 std::string HostPath(const std::filesystem::path& path) {
@@ -12,7 +14,7 @@ std::string HostPath(const std::filesystem::path& path) {
 
 std::filesystem::path FilePath(std::string_view hostPath) {
   std::string path(hostPath);
-  std::replace(path.begin(), path.end(), '\\', '/');
+  ReplaceByCharacters(path, '\\', '/');
   return path;
 }
 

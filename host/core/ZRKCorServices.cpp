@@ -7,6 +7,7 @@
 
 #include "core/HostPath.h"
 #include "core/RuntimeFiles.h"
+#include "text/Characters.h"
 
 bool ZRKCorEnvVarManager::GetRuntimeFilePath(const char* variable, const CATUnicodeString& file,
                                              CATUnicodeString& path) {
@@ -32,7 +33,7 @@ void ZRKCorParserServices::SplitFilePath(const CATUnicodeString& path, CATUnicod
                                          CATUnicodeString& name) {
   // Copied first, as a caller may get a part back in the very text it passed.
   const std::string whole = path.ConvertToChar();
-  const std::size_t separator = whole.rfind('\\');
+  const std::size_t separator = standin::FindLastByCharacters(whole, '\\');
   if (separator == std::string::npos) {
     folder = "";
     name = whole.c_str();

@@ -35,7 +35,8 @@ public:
   const char* ConvertToChar() const { return bytes_.c_str(); }
   std::wstring ConvertToWideChar() const;
 
-  // Replaces the first occurrence of `searched`; nothing when it is empty or not found.
+  // Replaces the first occurrence of `searched`, sought by characters; nothing when it is empty or not
+  // found.
   void ReplaceSubString(const CATUnicodeString& searched, const CATUnicodeString& replacement);
 
   friend bool operator==(const CATUnicodeString& a, const CATUnicodeString& b) {

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <utility>
 
+#include "text/Characters.h"
 #include "text/NativeText.h"
 
 CATUnicodeString::CATUnicodeString(const char* text) : bytes_(text ? text : "") {}
@@ -66,7 +67,7 @@ std::wstring CATUnicodeString::ConvertToWideChar() const {
 void CATUnicodeString::ReplaceSubString(const CATUnicodeString& searched,
                                         const CATUnicodeString& replacement) {
   if (searched.bytes_.empty()) return;
-  const std::size_t position = bytes_.find(searched.bytes_);
+  const std::size_t position = standin::FindByCharacters(bytes_, searched.bytes_);
   if (position == std::string::npos) return;
   bytes_.replace(position, searched.bytes_.size(), replacement.bytes_);
   ForgetCount();

@@ -3,7 +3,8 @@
 #include <string>
 #include <string_view>
 
-// Between the platform's 8-bit encoding (UTF-8 on Linux, the active code page on Windows) and wide text.
+// Between the platform's 8-bit encoding and wide text. The encoding is the active code page on Windows; on
+// Linux it is UTF-8 unless windows/CodePage.h sets another.
 namespace standin {
 
 // Bytes that are no part of a character become one wide character each; on Linux these are

@@ -2,6 +2,9 @@
 
 #include <cstddef>
 
+#include "windows/CodePage.h"
+#include "windows/DoubleByteText.h"
+
 namespace standin {
 namespace {
 
@@ -77,9 +80,7 @@ void AppendUtf8(std::string& text, char32_t character) {
   }
 }
 
-}  // namespace
-
-std::wstring WideFromNative(std::string_view text) {
+std::wstring WideFromUtf8(std::string_view text) {
   std::wstring wide;
   wide.reserve(text.size());
   for (std::size_t position = 0; position < text.size();) {
@@ -90,7 +91,7 @@ std::wstring WideFromNative(std::string_view text) {
   return wide;
 }
 
-std::string NativeFromWide(std::wstring_view text) {
+std::string Utf8FromWide(std::wstring_view text) {
   std::string native;
   native.reserve(text.size());
   for (const wchar_t wide : text) {
@@ -106,11 +107,26 @@ std::string NativeFromWide(std::wstring_view text) {
   return native;
 }
 
+bool IsUtf8() {
+  return CodePage() == kUtf8CodePage;
+}
+
+}  // namespace
+
+std::wstring WideFromNative(std::string_view text) {
+  return IsUtf8() ? WideFromUtf8(text) : WideFromDoubleByte(text);
+}
+
+std::string NativeFromWide(std::wstring_view text) {
+  return IsUtf8() ? Utf8FromWide(text) : DoubleByteFromWide(text);
+}
+
 std::string NativeFromUtf8(std::string_view text) {
-  return std::string(text);
+  return IsUtf8() ? std::string(text) : DoubleByteFromWide(WideFromUtf8(text));
 }
 
 int CountCharacters(std::string_view text) {
+  if (!IsUtf8()) return static_cast<int>(WideFromDoubleByte(text).size());
   int count = 0;
   for (std::size_t position = 0; position < text.size(); ++count) position += DecodeAt(text, position).Bytes;
   return count;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "text/Characters.h"
+
 namespace standin {
 namespace {
 
@@ -47,8 +49,9 @@ std::string TakeArgument(std::string_view& line) {
       }
       line.remove_prefix(1);
     } else if (backslashes == 0) {
-      argument += line.front();
-      line.remove_prefix(1);
+      const std::size_t bytes = CharacterBytes(line);
+      argument.append(line.substr(0, bytes));
+      line.remove_prefix(bytes);
     }
   }
   return argument;

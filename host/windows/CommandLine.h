@@ -12,8 +12,8 @@ namespace standin {
 // - In the others, backslashes are literal unless a quote follows: 2n of them and a quote give n and
 //   the quote opens or closes, 2n+1 and a quote give n and a literal quote.
 // - Within quotes two quotes give a literal one.
-// There is always a first argument. Text is taken byte by byte, so that any encoding that keeps ASCII
-// passes unharmed.
+// There is always a first argument. A letter of two bytes is taken as a whole: its second byte is no
+// backslash.
 std::vector<std::string> SplitCommandLine(std::string_view line);
 
 }  // namespace standin

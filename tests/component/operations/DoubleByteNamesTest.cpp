@@ -1,0 +1,152 @@
+// Files and folders whose names end in a letter of two bytes, the second of which is that of "\".
+
+#include <gtest/gtest.h>
+
+#include "CATIProduct.h"
+#include "ZRKCVSStatus.h"
+#include "ZRKICVSManager.h"
+#include "component/svn/EntriesText.h"
+#include "core/HostPath.h"
+#include "support/Assembly.h"
+#include "support/CVSFolder.h"
+#include "support/DialogRecorder.h"
+#include "support/Files.h"
+#include "support/JapaneseCodePage.h"
+#include "support/ScriptedClient.h"
+#include "support/Session.h"
+
+namespace {
+
+// U+30BD and U+8868 in code page 932.
+constexpr char kFolder[] = "\x83\\";
+constexpr char kName[] = "part \x95\\";
+
+class DoubleByteNames : public testing::Test {
+protected:
+  void SetUp() override {
+    if (!JapaneseCodePage::IsActive()) GTEST_SKIP() << "the system's code page is not 932";
+    Products.Add("part", standin::FilePath(std::string("w\\") + kFolder + "\\" + kName));
+  }
+
+  ZRKICVSManager_var Manager() const { return Products.At("part"); }
+  std::filesystem::path DocumentFolder() const {
+    return Folder / standin::FilePath(std::string("w\\") + kFolder);
+  }
+  std::string Document() const { return HostFolder() + "\\" + kName; }
+  std::string HostFolder() const { return Folder.Host("w") + "\\" + kFolder; }
+
+  std::vector<std::string> Runs() const {
+    std::vector<std::string> runs;
+    for (const ClientRun& run : Client.Runs()) {
+      EXPECT_EQ(run.Folder, runFolder_);
+      runs.push_back(run.Joined());
+    }
+    return runs;
+  }
+
+  JapaneseCodePage Page;
+  Session Host;
+  ScriptedClient Client;
+  TemporaryFolder Folder;
+  Assembly Products{Folder};
+  std::string runFolder_;
+};
+
+class DoubleByteNamesInCVS : public DoubleByteNames {
+protected:
+  void SetUp() override {
+    DoubleByteNames::SetUp();
+    if (IsSkipped()) return;
+    WriteCVSFolder(DocumentFolder(), "/cvs/root", kFolder);
+    runFolder_ = Folder.Host("w");
+    Client.When("status -v")
+        .Out(
+            "File: part\tStatus: Up-to-date\r\n   Working revision:\t1.4\r\n"
+            "   Repository revision:\t1.4\t/cvs/root/" +
+            std::string(kFolder) + "/" + kName + ",v\r\n");
+  }
+
+  static std::string Command(const std::string& command) {
+    return "-d /cvs/root " + command + " " + kFolder + "\\" + kName;
+  }
+};
+
+class DoubleByteNamesInSubversion : public DoubleByteNames {
+protected:
+  void SetUp() override {
+    DoubleByteNames::SetUp();
+    if (IsSkipped()) return;
+    WriteFile(DocumentFolder() / ".svn" / "entries",
+              entries::Format(10) + entries::Folder("12") + entries::File(10, kName, "9", "bert"));
+    runFolder_ = HostFolder();
+  }
+
+  std::string Revision() const {
+    const auto attributes = ReadStatusAttributes(Products.At("part"));
+    return attributes ? attributes->Revision : "no instance";
+  }
+};
+
+using Texts = std::vector<std::string>;
+
+}  // namespace
+
+TEST_F(DoubleByteNamesInCVS, AreRefreshed) {
+  Manager()->RefreshStatus(Products.At("part"));
+  EXPECT_EQ(Runs(), (Texts{Command("status -v"), Command("-n edit")}));
+  const auto attributes = ReadStatusAttributes(Products.At("part"));
+  ASSERT_TRUE(attributes);
+  EXPECT_EQ(attributes->Revision, "1.4");
+}
+
+TEST_F(DoubleByteNamesInCVS, AreQueried) {
+  ZRKCVSStatus record;
+  Manager()->GetFileStatus(CATIProduct_var(Products.At("part")), record);
+  EXPECT_EQ(Runs(), Texts{Command("status -v")});
+  EXPECT_EQ(record.WorkingRevision, "1.4");
+}
+
+TEST_F(DoubleByteNamesInCVS, AreTakenForEditing) {
+  EXPECT_EQ(Manager()->Edit(), 0);
+  EXPECT_EQ(Runs(), (Texts{Command("-n -q update"), Command("-q -x edit -z -c"), Command("status -v")}));
+}
+
+TEST_F(DoubleByteNamesInCVS, AreGivenBack) {
+  SetWritable(standin::FilePath(Document()));
+  const DialogRecorder user({standin::DialogAnswer::Yes});
+  Client.When("-n edit").Out(std::string(kFolder) + "/" + kName + "\tanna\tnow\there\r\n");
+  Client.When("unedit").Out(std::string(kName) + " has been modified; revert changes? ").Read();
+  EXPECT_EQ(Manager()->Unedit(), 0);
+  const Texts check{Command("status -v"), Command("-n edit")};
+  EXPECT_EQ(Runs(), (Texts{check[0], check[1], Command("-q -x unedit"), check[0], check[1]}));
+  ASSERT_EQ(user.Requests().size(), 1u);
+}
+
+TEST_F(DoubleByteNamesInCVS, AreRemoved) {
+  runFolder_ = HostFolder();
+  EXPECT_EQ(Manager()->CVSRemove(Document().c_str()), 0);
+  EXPECT_EQ(Runs(), Texts{std::string("-d /cvs/root -d /cvs/root remove -f ") + kName});
+}
+
+TEST_F(DoubleByteNamesInSubversion, AreRefreshed) {
+  Manager()->RefreshStatus(Products.At("part"));
+  EXPECT_EQ(Runs(), (Texts{"status -v -u " + Document(), "status -v -u --xml " + Document()}));
+  EXPECT_EQ(Revision(), "9");
+}
+
+TEST_F(DoubleByteNamesInSubversion, AreLocked) {
+  EXPECT_EQ(Manager()->Edit(), 0);
+  EXPECT_EQ(Runs(), (Texts{"update " + Document(), "lock " + Document(), "status -v -u " + Document()}));
+  EXPECT_EQ(Revision(), "9");
+}
+
+TEST_F(DoubleByteNamesInSubversion, AreUnlocked) {
+  EXPECT_EQ(Manager()->Unedit(), 0);
+  EXPECT_EQ(Runs(), (Texts{"unlock " + Document(), "status -v -u " + Document()}));
+  EXPECT_EQ(Revision(), "9");
+}
+
+TEST_F(DoubleByteNamesInSubversion, AreDeleted) {
+  EXPECT_EQ(Manager()->SVNDelete(Document().c_str()), 0);
+  EXPECT_EQ(Runs(), Texts{"delete -mzq --force " + Document()});
+}
