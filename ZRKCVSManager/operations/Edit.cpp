@@ -19,18 +19,27 @@ namespace {
 
 constexpr HRESULT kMessageShown = 1;
 
-void ShowWarning(const CATUnicodeString& message) {
-  const CATUnicodeString title =
-      CATMsgCatalog::BuildMessage("ZRKCVSEditCmd", "warning", nullptr, 0, "Warning!!!");
-  tools::DisplayBlocked(tools::DialogKind::Notice, message, title);
+CATUnicodeString WarningTitle() {
+  return CATMsgCatalog::BuildMessage("ZRKCVSEditCmd", "warning", nullptr, 0, "Warning!!!");
 }
 
 // `answer` is the client's "U <file>".
 void ShowNewerVersion(CATUnicodeString answer) {
   answer.ReplaceSubString("U ", "");
-  ShowWarning(CATMsgCatalog::BuildMessage("ZRKCVSEditCmd", "updatewarning", &answer, 1,
-                                          CATUnicodeString("There is a newer version of ") + answer +
-                                              " in the repository, please do an update first."));
+  tools::DisplayBlocked(tools::DialogKind::Notice, [&] {
+    const CATUnicodeString title = WarningTitle();
+    const CATUnicodeString message =
+        CATMsgCatalog::BuildMessage("ZRKCVSEditCmd", "updatewarning", &answer, 1,
+                                    CATUnicodeString("There is a newer version of ") + answer +
+                                        " in the repository, please do an update first.");
+    return tools::DialogTexts{message, title};
+  });
+}
+
+void ShowMessage(const CATUnicodeString& message) {
+  tools::DisplayBlocked(tools::DialogKind::Notice, [&] {
+    return tools::DialogTexts{message, WarningTitle()};
+  });
 }
 
 }  // namespace
@@ -58,7 +67,7 @@ HRESULT ZRKECVSManager::Edit() {
   if (!instance && ZRKIAttExtendable_var(own)) return E_FAIL;
   const CATICkeParm_var status = product::GetParameter(instance, "Status");
   if (!status || answers.GetLengthInByte() > 0) {
-    ShowWarning(answers);
+    ShowMessage(answers);
     product::Redraw(own);
     return kMessageShown;
   }

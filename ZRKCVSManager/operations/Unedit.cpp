@@ -24,10 +24,12 @@ bool IsTakenForEditing(const ZRKIAttInstance_var& instance) {
 // Shows what the client says, its question in the installation's words. Nothing when there is nobody to
 // be asked.
 std::optional<int> AskUser(CATUnicodeString output) {
-  const CATUnicodeString question =
-      CATMsgCatalog::BuildMessage("ZRKCVSUneditCmd", "uneditmsg", nullptr, 0, output);
-  output.ReplaceSubString("has been modified; revert changes?", question);
-  return tools::DisplayBlocked(tools::DialogKind::Question, output, "CVS");
+  return tools::DisplayBlocked(tools::DialogKind::Question, [&] {
+    const CATUnicodeString question =
+        CATMsgCatalog::BuildMessage("ZRKCVSUneditCmd", "uneditmsg", nullptr, 0, output);
+    output.ReplaceSubString("has been modified; revert changes?", question);
+    return tools::DialogTexts{output, "CVS"};
+  });
 }
 
 }  // namespace

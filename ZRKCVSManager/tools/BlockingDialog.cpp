@@ -1,27 +1,29 @@
 #include "tools/BlockingDialog.h"
 
+#include <memory>
+
 #include "CATApplicationFrame.h"
 #include "CATDlgNotify.h"
 
 namespace zrk::tools {
 namespace {
 
-CATDialog* MainWindow() {
-  CATApplicationFrame* const frame = CATApplicationFrame::GetFrame();
-  return frame ? frame->GetMainWindow() : nullptr;
-}
+// A dialog is not deleted but asked to go, also when its window was closed while it was up.
+struct DestructionRequest {
+  void operator()(CATDialog* dialog) const { dialog->RequestDestruction(); }
+};
 
 }  // namespace
 
-std::optional<int> DisplayBlocked(DialogKind kind, const CATUnicodeString& message,
-                                  const CATUnicodeString& title) {
-  CATDialog* const mainWindow = MainWindow();
+std::optional<int> DisplayBlocked(DialogKind kind, const std::function<DialogTexts()>& buildTexts) {
+  CATApplicationFrame* const frame = CATApplicationFrame::GetFrame();
+  if (!frame) return std::nullopt;
+  CATDialog* const mainWindow = frame->GetMainWindow();
   if (!mainWindow) return std::nullopt;
-  auto* const dialog = new CATDlgNotify(mainWindow, "Warning", static_cast<unsigned int>(kind));
-  const int answer = dialog->DisplayBlocked(message, title);
-  // A window that was closed meanwhile has taken its dialogs along.
-  if (MainWindow() == mainWindow) dialog->RequestDestruction();
-  return answer;
+  const std::unique_ptr<CATDlgNotify, DestructionRequest> dialog(
+      new CATDlgNotify(mainWindow, "Warning", static_cast<unsigned int>(kind)));
+  const DialogTexts texts = buildTexts();
+  return dialog->DisplayBlocked(texts.Message, texts.Title);
 }
 
 }  // namespace zrk::tools

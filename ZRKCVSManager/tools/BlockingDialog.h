@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include "CATUnicodeString.h"
@@ -12,9 +13,14 @@ enum class DialogKind : unsigned int { Notice = 0x4100200, Question = 0x4800200 
 // What CATDlgNotify::DisplayBlocked gives for yes.
 inline constexpr int kAnswerYes = 3;
 
+struct DialogTexts {
+  CATUnicodeString Message;
+  CATUnicodeString Title;
+};
+
 // Shows a warning above the application's main window and waits for the user. Gives the user's answer;
-// nothing when there is no application frame or no main window, and so nothing was shown.
-std::optional<int> DisplayBlocked(DialogKind kind, const CATUnicodeString& message,
-                                  const CATUnicodeString& title);
+// nothing when there is no application frame or no main window, and so nothing was shown. The texts are
+// asked for once the dialog is made, and not at all when nothing can be shown.
+std::optional<int> DisplayBlocked(DialogKind kind, const std::function<DialogTexts()>& buildTexts);
 
 }  // namespace zrk::tools

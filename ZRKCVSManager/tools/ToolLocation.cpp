@@ -13,9 +13,11 @@ void LocateTools(CATUnicodeString& cvsExePath, CATUnicodeString& svnExePath) {
 
 std::int32_t CheckCVSToolPath(const CATUnicodeString& cvsExePath) {
   if (cvsExePath.GetLengthInChar() > 0) return 1;
-  const CATUnicodeString message = CATMsgCatalog::BuildMessage("ZRKCVSEditCmd", "CVSExePathNotFound", nullptr,
-                                                               0, "Path of cvs.exe is not specified");
-  DisplayBlocked(DialogKind::Notice, message, "Version Control");
+  DisplayBlocked(DialogKind::Notice, [] {
+    return DialogTexts{CATMsgCatalog::BuildMessage("ZRKCVSEditCmd", "CVSExePathNotFound", nullptr, 0,
+                                                   "Path of cvs.exe is not specified"),
+                       "Version Control"};
+  });
   return 0;
 }
 

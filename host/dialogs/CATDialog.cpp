@@ -1,6 +1,7 @@
 #include "CATDialog.h"
 
 #include <algorithm>
+#include <utility>
 
 CATDialog::CATDialog(CATDialog* parent) : parent_(parent) {
   if (parent_) parent_->children_.push_back(this);
@@ -8,7 +9,14 @@ CATDialog::CATDialog(CATDialog* parent) : parent_(parent) {
 
 CATDialog::~CATDialog() {
   if (parent_) std::erase(parent_->children_, this);
-  while (!children_.empty()) children_.back()->RequestDestruction();
+  for (CATDialog* const child : std::exchange(children_, {})) {
+    child->parent_ = nullptr;
+    child->ParentEnds();
+  }
+}
+
+void CATDialog::ParentEnds() {
+  RequestDestruction();
 }
 
 void CATDialog::RequestDestruction() {

@@ -62,7 +62,13 @@ int CATDlgNotify::DisplayBlocked(const CATUnicodeString& message, const CATUnico
     std::abort();
   }
   if (!hasParent_) return 0;
+  isUp_ = true;
   const standin::DialogAnswer answer =
       standin::Ask({identifier_.ConvertToChar(), title.ConvertToChar(), message.ConvertToChar(), style_});
+  isUp_ = false;
   return static_cast<int>(answer);
+}
+
+void CATDlgNotify::ParentEnds() {
+  if (!isUp_) CATDialog::ParentEnds();
 }

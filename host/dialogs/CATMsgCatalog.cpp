@@ -14,6 +14,11 @@ std::map<std::pair<std::string, std::string>, std::string>& Texts() {
   return *texts;
 }
 
+standin::CatalogListener& Listener() {
+  static auto* const listener = new standin::CatalogListener;
+  return *listener;
+}
+
 // One pass, so that a "/P1" in a parameter stays as it is.
 std::string FillIn(const std::string& text, const CATUnicodeString* parameters, int parameterCount) {
   std::string filled;
@@ -43,11 +48,16 @@ void ClearCatalogs() {
   Texts().clear();
 }
 
+void SetCatalogListener(CatalogListener listener) {
+  Listener() = std::move(listener);
+}
+
 }  // namespace standin
 
 CATUnicodeString CATMsgCatalog::BuildMessage(const CATUnicodeString& catalog, const CATUnicodeString& key,
                                              const CATUnicodeString* parameters, int parameterCount,
                                              const CATUnicodeString& defaultText) {
+  if (Listener()) Listener()(catalog.ConvertToChar(), key.ConvertToChar());
   const auto found = Texts().find({catalog.ConvertToChar(), key.ConvertToChar()});
   if (found == Texts().end()) return defaultText;
   return FillIn(found->second, parameters, parameterCount).c_str();

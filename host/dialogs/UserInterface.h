@@ -26,7 +26,7 @@ using DialogResponder = std::function<DialogAnswer(const DialogRequest&)>;
 void SetDialogResponder(DialogResponder responder);
 
 // Whether there is an application frame, and whether it has a main window. At the start there is neither.
-// A main window that goes takes its message boxes with it.
+// A main window that goes takes its message boxes with it, but for one that is up.
 void SetApplicationFrame(bool frame, bool mainWindow);
 
 // Message boxes that were made and have not ended. Showing one that has ended ends the process with a

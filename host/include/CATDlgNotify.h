@@ -11,13 +11,16 @@ public:
   CATDlgNotify(CATDialog* parent, const CATUnicodeString& identifier, unsigned int style);
 
   // Shows the message and waits for the user: 1 for a notice acknowledged, 3 for yes, 4 for no. Without a
-  // parent there is nothing to show it on: 0 at once.
+  // parent there is nothing to show it on: 0 at once. A box that is up when its parent ends does not end
+  // with it: whoever shows it still has to ask it to go.
   int DisplayBlocked(const CATUnicodeString& message, const CATUnicodeString& title);
 
 protected:
   ~CATDlgNotify() override;
+  void ParentEnds() override;
 
 private:
+  bool isUp_ = false;
   const bool hasParent_;
   CATUnicodeString identifier_;
   unsigned int style_;

@@ -1,4 +1,5 @@
 #include "component/operations/OperationTest.h"
+#include "support/CatalogLookUps.h"
 #include "windows/LaunchLog.h"
 
 // In which order a file is taken for editing, as the user and the client see it.
@@ -71,4 +72,30 @@ TEST_F(EditOrder, ANewerVersionIsToldOnStandardOutputBeforeItIsShown) {
     Manager().Edit();
   }
   EXPECT_TRUE(atDialog.starts_with("do update first")) << atDialog;
+}
+
+TEST_F(EditOrder, OfANewerVersionTheTitleIsBuiltBeforeTheMessage) {
+  Client.When("update").Out("U a\r\n");
+  const CapturedOutput quiet;
+  const CatalogLookUps texts;
+  Manager().Edit();
+  EXPECT_EQ(texts.Keys(), (TextLines{"ZRKCVSEditCmd/warning", "ZRKCVSEditCmd/updatewarning"}));
+}
+
+TEST_F(EditOrder, OfAMessageOnlyTheTitleIsBuilt) {
+  Client.When("-x edit").Out("text");
+  const CatalogLookUps texts;
+  Manager().Edit();
+  EXPECT_EQ(texts.Keys(), TextLines{"ZRKCVSEditCmd/warning"});
+}
+
+TEST_F(EditOrder, NoTextIsBuiltWithoutAMainWindow) {
+  standin::SetApplicationFrame(true, false);
+  Client.When("update").Once().Out("U a\r\n");
+  Client.When("-x edit").Out("text");
+  const CapturedOutput quiet;
+  const CatalogLookUps texts;
+  Manager().Edit();
+  Manager().Edit();
+  EXPECT_EQ(texts.Keys(), TextLines{});
 }

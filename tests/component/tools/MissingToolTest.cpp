@@ -3,6 +3,7 @@
 #include "dialogs/MessageCatalogs.h"
 #include "manager/ZRKECVSManager.h"
 #include "support/Assembly.h"
+#include "support/CatalogLookUps.h"
 #include "support/DialogRecorder.h"
 #include "support/ScriptedClient.h"
 #include "support/Session.h"
@@ -62,10 +63,12 @@ TEST_F(MissingTool, TheDialogIsGoneAfterwards) {
   EXPECT_EQ(standin::LiveDialogCount(), 0);
 }
 
-TEST_F(MissingTool, WithoutAMainWindowNothingIsShown) {
+TEST_F(MissingTool, WithoutAMainWindowNothingIsBuiltOrShown) {
   standin::SetApplicationFrame(true, false);
+  const CatalogLookUps texts;
   EXPECT_EQ(CheckCVSToolPath(""), 0);
   EXPECT_TRUE(dialogs_.Requests().empty());
+  EXPECT_TRUE(texts.Keys().empty());
 }
 
 TEST_F(MissingTool, WithoutAnApplicationFrameNothingIsShown) {

@@ -98,6 +98,17 @@ TEST_F(CATDlgNotifyTest, GoesWithItsParent) {
   EXPECT_EQ(LiveDialogCount(), before);
 }
 
+TEST_F(CATDlgNotifyTest, OutlivesItsParentWhileItIsUp) {
+  const int before = LiveDialogCount();
+  DialogRecorder user;
+  user.WhileShown([] { standin::SetApplicationFrame(true, false); });
+  CATDlgNotify* const dialog = NewDialog(kNotice);
+  EXPECT_EQ(dialog->DisplayBlocked("message", "title"), 1);
+  EXPECT_EQ(LiveDialogCount(), before + 1);
+  dialog->RequestDestruction();
+  EXPECT_EQ(LiveDialogCount(), before);
+}
+
 using CATDlgNotifyDeathTest = CATDlgNotifyTest;
 
 // The address sanitizer, where it is on, sees it before the host does.
