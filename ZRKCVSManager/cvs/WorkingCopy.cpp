@@ -40,7 +40,7 @@ bool ExamineForCVS(const CATUnicodeString& documentPath, const std::string& fold
   const std::size_t below = text::Find(path, repositoryPath);
   workingCopy.SandboxRoot = below == std::string::npos ? "" : path.substr(0, below).c_str();
 
-  if (const std::optional<files::Text> root = files::ReadText(folder + "\\CVS\\Root")) {
+  if (const std::optional<files::Text> root = files::ReadText(folder + "\\CVS\\Root", "r")) {
     workingCopy.CVSRoot = WithoutLineFeeds(root->View()).c_str();
   }
   return true;

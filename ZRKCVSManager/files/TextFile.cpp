@@ -17,18 +17,18 @@ struct FileCloser {
   void operator()(std::FILE* file) const { fclose(file); }
 };
 
-std::unique_ptr<std::FILE, FileCloser> OpenText(const std::string& path) {
-  return std::unique_ptr<std::FILE, FileCloser>(fopen(path.c_str(), "rt"));
+std::unique_ptr<std::FILE, FileCloser> Open(const std::string& path, const char* mode) {
+  return std::unique_ptr<std::FILE, FileCloser>(fopen(path.c_str(), mode));
 }
 
 }  // namespace
 
 bool CanOpen(const std::string& path) {
-  return OpenText(path) != nullptr;
+  return Open(path, "rt") != nullptr;
 }
 
 bool HoldsSeveralLines(const std::string& path) {
-  const auto file = OpenText(path);
+  const auto file = Open(path, "rt");
   if (!file) return false;
   for (int character = fgetc(file.get()); character != EOF; character = fgetc(file.get())) {
     if (character == '\n') return fgetc(file.get()) != EOF;
@@ -36,8 +36,8 @@ bool HoldsSeveralLines(const std::string& path) {
   return false;
 }
 
-std::optional<Text> ReadText(const std::string& path) {
-  const auto file = OpenText(path);
+std::optional<Text> ReadText(const std::string& path, const char* mode) {
+  const auto file = Open(path, mode);
   if (!file) return std::nullopt;
   struct _stat64i32 status {};
   _stat64i32(path.c_str(), &status);

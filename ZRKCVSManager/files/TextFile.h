@@ -8,7 +8,8 @@
 
 // The files that the clients keep beside a document, read as the C library's text mode gives them: a
 // carriage return before a line feed is left out, and Ctrl-Z ends the text. Paths are the host's,
-// separated by "\".
+// separated by "\". Modes are those of fopen: "rt" is always text, "r" unless the process has another
+// default.
 namespace zrk::files {
 
 // Whether the file can be opened for reading.
@@ -27,7 +28,7 @@ struct Text {
 };
 
 // The whole text, or what comes before a read error; nothing when the file cannot be opened.
-std::optional<Text> ReadText(const std::string& path);
+std::optional<Text> ReadText(const std::string& path, const char* mode = "rt");
 
 // Whether there is a folder of that path, which must not end in "\".
 bool IsFolder(const std::string& path);

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <exception>
@@ -13,10 +14,18 @@
 #include "core/HostPath.h"
 #include "windows/FileDescriptor.h"
 #include "windows/TextFile.h"
+#include "windows/WindowsControl.h"
 
 using standin::FileDescriptor;
 
 namespace {
+
+std::atomic<bool> binaryByDefault = false;
+
+bool IsBinary(std::string_view mode) {
+  if (mode.find('b') != std::string_view::npos) return true;
+  return binaryByDefault && mode.find('t') == std::string_view::npos;
+}
 
 // A folder can be opened here, but there it cannot.
 FileDescriptor OpenForReading(const std::string& path) {
@@ -38,6 +47,10 @@ std::FILE* OpenBinaryStream(FileDescriptor file) {
 
 }  // namespace
 
+void standin::OpenFilesInBinary(bool binary) {
+  binaryByDefault = binary;
+}
+
 // Stands in the place of fopen in everything that is linked with this library. Modes that write reach
 // the C library's own function; line ends are written as they are.
 // NOLINTNEXTLINE(bugprone-reserved-identifier): the linker gives the name
@@ -53,8 +66,7 @@ extern "C" std::FILE* __wrap_fopen(const char* hostPath, const char* mode) try {
 
   FileDescriptor file = OpenForReading(path);
   if (!file) return nullptr;
-  const bool binary = how.find('b') != std::string_view::npos;
-  return binary ? OpenBinaryStream(std::move(file)) : standin::OpenTextStream(std::move(file));
+  return IsBinary(how) ? OpenBinaryStream(std::move(file)) : standin::OpenTextStream(std::move(file));
 } catch (const std::exception&) {
   return nullptr;
 }

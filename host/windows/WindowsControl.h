@@ -5,11 +5,24 @@
 // Control of the stand-in: making its Windows functions fail, and counting what is left open.
 namespace standin {
 
-enum class WindowsCall { CreatePipe, SetHandleInformation, CreateProcess, ReadFile, WriteFile, CloseHandle };
+enum class WindowsCall {
+  CreatePipe,
+  SetHandleInformation,
+  CreateProcess,
+  ReadFile,
+  WriteFile,
+  // Fails, but closes the handle all the same.
+  CloseHandle,
+  // The same function. Fails and leaves the handle open.
+  CloseHandleInVain
+};
 
 // Lets `successes` further calls of that function succeed, and the one after them fail, once. Negative:
-// none fails. A CloseHandle that is made to fail closes the handle all the same.
+// none fails.
 void FailWindowsCall(WindowsCall call, int successes);
+
+// Whether fopen opens a file as binary when its mode says neither "t" nor "b"; at first as text.
+void OpenFilesInBinary(bool binary);
 
 // Handles of pipes, processes and threads that are open.
 int OpenHandleCount();

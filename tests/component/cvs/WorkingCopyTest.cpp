@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "component/product/DeepAssembly.h"
+#include "support/BinaryFiles.h"
 #include "support/CVSFolder.h"
 #include "support/Files.h"
 
@@ -69,6 +70,16 @@ TEST_F(Discovery, ReadsAdministrativeFilesWithWindowsLineEnds) {
   const WorkingCopy found = Found("part");
   EXPECT_EQ(Text(found.SandboxRoot), HostFolder("w"));
   EXPECT_EQ(Text(found.CVSRoot), "/cvs/root");
+}
+
+TEST_F(Discovery, OpensTheRootAsTheProcessOpensFilesAndTheOthersAsText) {
+  WriteFile(folder_ / "w/proj/sub/CVS/Repository", "proj/sub\r\n");
+  WriteFile(folder_ / "w/proj/sub/CVS/Root", "/cvs/root\r\n");
+  assembly_.Add("part", "w/proj/sub/a");
+  const BinaryFiles binary;
+  const WorkingCopy found = Found("part");
+  EXPECT_EQ(Text(found.SandboxRoot), HostFolder("w"));
+  EXPECT_EQ(Text(found.CVSRoot), "/cvs/root\r");
 }
 
 TEST_F(Discovery, ReadsAdministrativeFilesWithoutALastLineEnd) {

@@ -6,6 +6,7 @@
 
 #include "EntriesText.h"
 #include "ZRKCVSStatus.h"
+#include "support/BinaryFiles.h"
 #include "support/Files.h"
 #include "support/HandleCount.h"
 #include "support/TemporaryFolder.h"
@@ -37,6 +38,13 @@ TEST_F(SVNEntryOnDisk, IsReadFromTheFolderOfTheFile) {
   EXPECT_EQ(Record.RevisionNumber, 9);
   EXPECT_TRUE(Record.IsLockedHere);
   EXPECT_EQ(Record.LockOwner, "anna");
+}
+
+TEST_F(SVNEntryOnDisk, IsReadAsTextWhateverTheProcessOpensFilesAs) {
+  Write("10\r\na.CATPart\r\n" + Text(Lines(8), "\r\n") + "9\r\n");
+  const BinaryFiles binary;
+  EXPECT_EQ(ReadFile("a.CATPart"), S_OK);
+  EXPECT_EQ(Record.WorkingRevision, "9");
 }
 
 TEST_F(SVNEntryOnDisk, WithoutAnEntriesFileIsAFailureThatLeavesTheRecord) {

@@ -6,6 +6,7 @@
 
 #include "OpenDescriptors.h"
 #include "TestFiles.h"
+#include "support/BinaryFiles.h"
 #include "windows/TextFile.h"
 
 namespace {
@@ -48,6 +49,15 @@ TEST(TextMode, ReadsCrLfAsLf) {
   EXPECT_EQ(TextOf("a\nb\n"), "a\nb\n");
   EXPECT_EQ(TextOf("\r\n"), "\n");
   EXPECT_EQ(TextOf(""), "");
+}
+
+TEST(TextMode, IsTheOneOfAModeThatDoesNotSayUnlessFilesAreOpenedAsBinary) {
+  const TemporaryFolder scratch;
+  const std::string path = AddFile(scratch, "file", "a\r\n");
+  EXPECT_EQ(ReadRest(Open(path, "r").get()), "a\n");
+  const BinaryFiles binary;
+  EXPECT_EQ(ReadRest(Open(path, "r").get()), "a\r\n");
+  EXPECT_EQ(ReadRest(Open(path, "rt").get()), "a\n");
 }
 
 TEST(TextMode, LeavesOtherCrAlone) {

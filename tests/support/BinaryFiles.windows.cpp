@@ -1,0 +1,12 @@
+#include "support/BinaryFiles.h"
+
+#include <fcntl.h>
+#include <stdlib.h>
+
+BinaryFiles::BinaryFiles() {
+  _set_fmode(_O_BINARY);
+}
+
+BinaryFiles::~BinaryFiles() {
+  _set_fmode(_O_TEXT);
+}
