@@ -31,6 +31,7 @@ void ZRKECVSManager::RefreshCVSRoute(const CATISpecObject_var& root) {
   if (!IsReadyForCVS(CATIProduct_var(root))) return;
   if (!root || !AttributeClass) return;
 
+  StatusBlockTable.clear();
   // The first element stays, also empty: without any file argument the client reports on everything
   // below the working folder.
   CATListValCATUnicodeString batches;
@@ -49,6 +50,7 @@ void ZRKECVSManager::RefreshCVSRoute(const CATISpecObject_var& root) {
 }
 
 void ZRKECVSManager::RefreshOneFile(const CATUnicodeString& documentPath) {
+  StatusBlockTable.clear();
   CATListValCATUnicodeString batches;
   batches.Append(CATUnicodeString(" ") + cvs::FileArgument(documentPath, SandboxRoot));
   RunStatusPasses(batches);
@@ -68,7 +70,6 @@ CATUnicodeString ZRKECVSManager::RunOverFiles(const char* command,
 
 ZRKECVSManager::PassTimes ZRKECVSManager::RunStatusPasses(const CATListValCATUnicodeString& fileArguments) {
   PassTimes times;
-  StatusBlockTable.clear();
   const tools::RunClock statusClock;
   const CATUnicodeString statusReport = RunOverFiles(" status -v ", fileArguments);
   times.Status = statusClock.Elapsed();

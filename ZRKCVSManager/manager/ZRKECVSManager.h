@@ -104,7 +104,8 @@ private:
   zrk::svn::SVNContext SVN();
   // Runs a CVS command once for each element of file arguments and joins the outputs.
   CATUnicodeString RunOverFiles(const char* command, const CATListValCATUnicodeString& fileArguments);
-  // Asks cvs.exe for the status of the files and then for who edits them, and files both reports.
+  // Asks cvs.exe for the status of the files and then for who edits them, and files both reports: the first
+  // into an empty StatusBlockTable, which the caller has emptied.
   PassTimes RunStatusPasses(const CATListValCATUnicodeString& fileArguments);
   void RefreshSVNRoute();
   void RefreshCVSRoute(const CATISpecObject_var& root);

@@ -53,6 +53,22 @@ TEST_F(TheTables, KeepTheFirstOfTwoBlocksAndOfTwoLines) {
   EXPECT_THAT(manager.EditTable, ElementsAre(Pair(Key("proj\\car"), "proj/car\nanna")));
 }
 
+TEST_F(TheTables, OfStatusBlocksIsEmptyWhenTheFilesAreCollected) {
+  ZRKECVSManager manager(Product("car"));
+  std::vector<std::size_t> blocks;
+  std::vector<std::size_t> lines;
+  standin::SetWorkModeListener([&](const CATBaseUnknown_var&, int) {
+    blocks.push_back(manager.StatusBlockTable.size());
+    lines.push_back(manager.EditTable.size());
+  });
+  manager.StatusBlockTable = {{"C:\\a", "b"}};
+  manager.EditTable = {{"C:\\a", "b"}};
+  manager.RefreshStatus(Root("car"));
+  standin::SetWorkModeListener({});
+  EXPECT_THAT(blocks, ElementsAre(0u, 0u));
+  EXPECT_THAT(lines, ElementsAre(1u, 1u));
+}
+
 TEST_F(TheTables, AreFilledAnewByEachRefresh) {
   Client.When("status -v").Once().Out(StatusBlock("proj/car", "1.1"));
   Client.When("-n edit").Once().Out("proj/car\tanna\r\n");
