@@ -1,10 +1,10 @@
 #include "svn/EntriesFile.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <functional>
 #include <optional>
 #include <string>
-
-#include "text/TextSearch.h"
 
 namespace zrk::svn {
 namespace {
@@ -21,9 +21,10 @@ std::optional<std::string_view> TextBehindLine(std::string_view entries, std::st
   const std::string line = std::string(name) + '\n';
   if (entries.starts_with(line)) return entries.substr(line.size());
   const std::string lineAfterAnother = '\n' + line;
-  const std::size_t found = text::TextSearch(lineAfterAnother).Find(entries);
-  if (found == std::string_view::npos) return std::nullopt;
-  return entries.substr(found + lineAfterAnother.size());
+  const std::boyer_moore_horspool_searcher searcher(lineAfterAnother.begin(), lineAfterAnother.end());
+  const auto found = std::search(entries.begin(), entries.end(), searcher);
+  if (found == entries.end()) return std::nullopt;
+  return entries.substr(static_cast<std::size_t>(found - entries.begin()) + lineAfterAnother.size());
 }
 
 // Skips lines at the front of `text`; nothing when it has fewer.

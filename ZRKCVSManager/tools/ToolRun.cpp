@@ -1,18 +1,16 @@
 #include "tools/ToolRun.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <string>
-#include <string_view>
 
-#include "text/TextSearch.h"
+#include "text/Text.h"
+#include "tools/QuestionSearch.h"
 
 namespace zrk::tools {
 namespace {
 
 constexpr DWORD kChunkSize = 4096;
-constexpr std::string_view kQuestion = "revert changes";
 
 // 0 when the process was not created.
 std::int32_t LaunchTool(const ToolContext& context, const CATUnicodeString& commandLine,
@@ -41,10 +39,8 @@ std::int32_t LaunchTool(const ToolContext& context, const CATUnicodeString& comm
 
 // True when the client waits for an answer, false when its output has ended.
 bool ReadOutput(const ToolContext& context, CATUnicodeString& output) {
-  static const text::TextSearch question(kQuestion);
+  QuestionSearch question;
   char buffer[kChunkSize + 1];
-  std::size_t length = std::strlen(output.ConvertToChar());
-  std::size_t searchedFrom = 0;
   for (;;) {
     DWORD count = 0;
     buffer[0] = '\0';
@@ -52,11 +48,7 @@ bool ReadOutput(const ToolContext& context, CATUnicodeString& output) {
     if (count == 0) return false;
     buffer[count] = '\0';
     output += buffer;
-    length += std::strlen(buffer);
-    const std::string_view whole(output.ConvertToChar(), length);
-    if (question.Find(whole, searchedFrom) != std::string_view::npos) return true;
-    // What the question can reach back into is searched again.
-    searchedFrom = length - std::min(length, kQuestion.size() - 1);
+    if (question.FindIn(text::View(output))) return true;
   }
 }
 
