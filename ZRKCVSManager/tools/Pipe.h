@@ -20,7 +20,8 @@ public:
     Close();
     return &handle_;
   }
-  // False when the system could not close the handle; true also when there was none.
+  // False when the system could not close the handle, which may then still be open; true also when there
+  // was none. It is given up in any case: its value may soon stand for another handle.
   bool Close() {
     const HANDLE handle = std::exchange(handle_, nullptr);
     return !handle || CloseHandle(handle);

@@ -82,6 +82,8 @@ void RunTool(const ToolContext& context, const CATUnicodeString& arguments,
   context.ChildInput.Read.Close();
   if (!context.ChildOutput.Write.Close()) {
     OutputDebugStringW(L"Closing handle failed\n");
+    // It may still be open, and then the output has no end that could be read to.
+    context.ChildOutput.Read.Close();
     return;
   }
   if (!ReadOutput(context, output)) context.ChildOutput.Close();
@@ -98,15 +100,15 @@ void AnswerTool(const ToolContext& context, const char* answer) {
 
 void FinishRun(const ToolContext& context) {
   context.ChildInput.Close();
-  // While this process holds the write end itself, the output has no end.
-  context.ChildOutput.Write.Close();
-  if (context.ChildOutput.Read.Get()) {
+  // RunTool closes the write end once a client is started.
+  const bool hasClient = !context.ChildOutput.Write.Get();
+  if (hasClient && context.ChildOutput.Read.Get()) {
     char buffer[kChunkSize];
     DWORD count = 0;
     while (ReadFile(context.ChildOutput.Read.Get(), buffer, sizeof(buffer), &count, nullptr) && count > 0) {
     }
   }
-  context.ChildOutput.Read.Close();
+  context.ChildOutput.Close();
 }
 
 }  // namespace zrk::tools

@@ -36,7 +36,8 @@ void RunTool(const ToolContext& context, const CATUnicodeString& arguments,
 void AnswerTool(const ToolContext& context, const char* answer);
 
 // Ends the last run, if there was one: the client sees the end of its input, and what it still writes is
-// read to the end and dropped, however long that takes. No pipe is open afterwards.
+// read to the end and dropped, however long that takes. Nothing is read of a client that was not started
+// or whose output cannot end. No pipe is open afterwards.
 void FinishRun(const ToolContext& context);
 
 // Finishes the last run when an operation is over, whatever way it ends.

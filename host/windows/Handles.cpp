@@ -93,6 +93,7 @@ BOOL WriteFile(HANDLE handle, LPCVOID buffer, DWORD size, LPDWORD written, LPOVE
 }
 
 BOOL CloseHandle(HANDLE handle) {
+  if (TakesFault(WindowsCall::CloseHandleInVain)) return FALSE;
   const bool fails = TakesFault(WindowsCall::CloseHandle);
   return HandleTable::Instance().Remove(handle) && !fails;
 }

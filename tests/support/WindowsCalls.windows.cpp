@@ -17,7 +17,7 @@ using standin::WindowsCall;
 
 standin::LaunchListener listener;
 // By function: calls that still succeed before the one that fails; negative: none fails.
-std::array<int, 6> successesLeft = {-1, -1, -1, -1, -1, -1};
+std::array<int, 7> successesLeft = {-1, -1, -1, -1, -1, -1, -1};
 
 bool MustFail(WindowsCall call) {
   int& successes = successesLeft[static_cast<std::size_t>(call)];
@@ -69,6 +69,7 @@ BOOL WINAPI WriteFileHere(HANDLE file, const void* bytes, DWORD size, DWORD* cou
 
 BOOL WINAPI CloseHandleHere(HANDLE handle) {
   static const auto real = Real<decltype(CloseHandle)>("CloseHandle");
+  if (MustFail(WindowsCall::CloseHandleInVain)) return FALSE;
   const bool fails = MustFail(WindowsCall::CloseHandle);
   return real(handle) && !fails;
 }

@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <future>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "component/tools/ToolRunner.h"
@@ -21,9 +24,9 @@ class ToolFaults : public testing::Test {
 protected:
   ToolFaults() { tool_.Client.Otherwise().Out("text"); }
   ~ToolFaults() override {
-    for (const WindowsCall call :
-         {WindowsCall::CreatePipe, WindowsCall::SetHandleInformation, WindowsCall::CreateProcess,
-          WindowsCall::ReadFile, WindowsCall::WriteFile, WindowsCall::CloseHandle}) {
+    for (const WindowsCall call : {WindowsCall::CreatePipe, WindowsCall::SetHandleInformation,
+                                   WindowsCall::CreateProcess, WindowsCall::ReadFile, WindowsCall::WriteFile,
+                                   WindowsCall::CloseHandle, WindowsCall::CloseHandleInVain}) {
       standin::FailWindowsCall(call, -1);
     }
     standin::SetLaunchListener({});
@@ -43,6 +46,15 @@ protected:
     tool_.ClosePipes();
     EXPECT_EQ(CountOpenHandles(), handles) << "handles left open";
     return output;
+  }
+
+  // Whether the runs so far have left the first read to be made, which then fails: all that they wrote is
+  // still to be read.
+  bool HasReadNothing() {
+    const std::string next = tool_.Run("status", "old ");
+    standin::FailWindowsCall(WindowsCall::ReadFile, -1);
+    tool_.ClosePipes();
+    return next == "old ";
   }
 
   ToolRunner tool_;
@@ -72,6 +84,40 @@ TEST_F(ToolFaults, TheWriteEndOfTheOutputMustClose) {
   CloseWhenStarted(tool_.ChildOutput.Write);
   EXPECT_EQ(tool_.Run("status", "old "), "old ");
   EXPECT_EQ(messages_.All(), Messages{L"Closing handle failed\n"});
+}
+
+TEST_F(ToolFaults, AWriteEndThatStaysOpenIsNotReadToAnEndItDoesNotHave) {
+  HANDLE writeEnd = nullptr;
+  standin::SetLaunchListener([&](const standin::Launch&) { writeEnd = tool_.ChildOutput.Write.Get(); });
+  // The first three are of the process, its thread and the read end of its input.
+  standin::FailWindowsCall(WindowsCall::CloseHandleInVain, 3);
+  auto run = std::async(std::launch::async, [&] {
+    const std::string output = tool_.Run("status", "old ");
+    tool_.ClosePipes();
+    return output;
+  });
+  const bool ends = run.wait_for(std::chrono::minutes(1)) == std::future_status::ready;
+  EXPECT_TRUE(CloseHandle(writeEnd)) << "it was closed";
+  EXPECT_TRUE(ends);
+  EXPECT_EQ(run.get(), "old ");
+  EXPECT_EQ(messages_.All(), Messages{L"Closing handle failed\n"});
+}
+
+TEST_F(ToolFaults, NothingIsReadWithoutAClient) {
+  for (const auto& [call, successes] : {std::pair{WindowsCall::CreatePipe, 0},
+                                        {WindowsCall::CreatePipe, 1},
+                                        {WindowsCall::CreateProcess, 0}}) {
+    standin::FailWindowsCall(WindowsCall::ReadFile, 0);
+    RunFailing(call, successes);
+    EXPECT_TRUE(HasReadNothing()) << static_cast<int>(call) << " " << successes;
+  }
+}
+
+TEST_F(ToolFaults, NothingIsReadWhenTheWriteEndDoesNotClose) {
+  standin::FailWindowsCall(WindowsCall::ReadFile, 0);
+  RunFailing(WindowsCall::CloseHandle, 3);
+  EXPECT_EQ(messages_.All(), Messages{L"Closing handle failed\n"});
+  EXPECT_TRUE(HasReadNothing());
 }
 
 TEST_F(ToolFaults, TheReadEndOfTheInputNeedNotClose) {

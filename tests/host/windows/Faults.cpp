@@ -64,6 +64,15 @@ TEST(Faults, OfCloseHandleCloseAllTheSame) {
   EXPECT_FALSE(CloseHandle(reading)) << "it is closed already";
 }
 
+TEST(Faults, OfCloseHandleInVainLeaveItOpen) {
+  TestPipe pipe;
+  const HANDLE reading = pipe.Reading;
+  FailWindowsCall(WindowsCall::CloseHandleInVain, 0);
+  EXPECT_FALSE(CloseHandle(reading));
+  EXPECT_TRUE(pipe.Write("a"));
+  EXPECT_TRUE(CloseHandle(reading));
+}
+
 TEST(Faults, LeaveNoHandleOpen) {
   const int before = standin::OpenHandleCount();
   FailWindowsCall(WindowsCall::CreatePipe, 0);
