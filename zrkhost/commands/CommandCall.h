@@ -12,8 +12,10 @@ struct CommandCall {
   const Command& Given;
   const HostSession& Session;
   const Plugin& Component;
-  // The product that the command is about.
-  const CATBaseUnknown_var& Product;
+  // Where the product stands that the command is about.
+  const Place& Where;
+
+  const CATBaseUnknown_var& Product() const { return Where.Product; }
 };
 
 // An interface that the component gives the product. Throws when it does not.

@@ -62,7 +62,7 @@ void CheckProduct(const Command& command, const HostSession& session) {
 
 Outcome RunCommand(const Command& command, const HostSession& session, const Plugin& plugin) {
   const Place* place = command.ProductPath ? session.Find(*command.ProductPath) : &session.Root();
-  return command.Kind->Run({command, session, plugin, place->Product});
+  return command.Kind->Run({command, session, plugin, *place});
 }
 
 }  // namespace zrkhost

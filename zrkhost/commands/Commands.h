@@ -40,6 +40,8 @@ struct Outcome {
   // For a person, behind what the library itself wrote.
   std::string Shown = {};
   bool ShowTree = false;
+  // The place whose tree was brought up to date; null when none was.
+  const Place* Refreshed = nullptr;
   bool Quit = false;
 
   bool Failed() const { return Result && *Result != 0 && !IsAnswer; }

@@ -18,7 +18,7 @@ ZRKICVSManager_var RootManager(const CommandCall& call) {
 }
 
 ZRKICVSManager_var Manager(const CommandCall& call) {
-  return call.Given.ByRoot ? RootManager(call) : InterfaceOf<ZRKICVSManager>(call.Product);
+  return call.Given.ByRoot ? RootManager(call) : InterfaceOf<ZRKICVSManager>(call.Product());
 }
 
 // `now`: what the product shows behind the command.
@@ -38,13 +38,13 @@ CATUnicodeString FileOf(const CommandCall& call) {
 }  // namespace
 
 Outcome RunRefresh(const CommandCall& call) {
-  Manager(call)->RefreshStatus(call.Product);
-  return {.ShowTree = true};
+  Manager(call)->RefreshStatus(call.Product());
+  return {.ShowTree = true, .Refreshed = call.Given.ByRoot ? &call.Session.Root() : &call.Where};
 }
 
 Outcome RunStatus(const CommandCall& call) {
   const CATBaseUnknown_var product =
-      call.Given.Instance ? call.Product : CATBaseUnknown_var(ReferenceOf(call.Product));
+      call.Given.Instance ? call.Product() : CATBaseUnknown_var(ReferenceOf(call.Product()));
   StatusRecord record(call.Component);
   const HRESULT result = Manager(call)->GetFileStatus(product, record.Get());
   Outcome outcome;
@@ -56,12 +56,12 @@ Outcome RunStatus(const CommandCall& call) {
 
 Outcome RunEdit(const CommandCall& call) {
   const HRESULT result = Manager(call)->Edit();
-  return WithResult(call, result, ShownStatus(AttributesOf(call.Product)));
+  return WithResult(call, result, ShownStatus(AttributesOf(call.Product())));
 }
 
 Outcome RunUnedit(const CommandCall& call) {
   const HRESULT result = Manager(call)->Unedit();
-  return WithResult(call, result, ShownStatus(AttributesOf(call.Product)));
+  return WithResult(call, result, ShownStatus(AttributesOf(call.Product())));
 }
 
 Outcome RunRemove(const CommandCall& call) {

@@ -20,7 +20,7 @@ Outcome Answer(int answer) {
 
 Outcome RunStorage(const CommandCall& call) {
   CATUnicodeString path;
-  InterfaceOf<ZRKICVS>(call.Product)->GetStorageName(path);
+  InterfaceOf<ZRKICVS>(call.Product())->GetStorageName(path);
   Outcome outcome;
   outcome.Text = Utf8FromNative(path.ConvertToChar());
   outcome.Shown = DisplayText(*outcome.Text) + "\n";
@@ -28,11 +28,11 @@ Outcome RunStorage(const CommandCall& call) {
 }
 
 Outcome RunCVSable(const CommandCall& call) {
-  return Answer(call.Component.IsCVSable(call.Product.Get()));
+  return Answer(call.Component.IsCVSable(call.Product().Get()));
 }
 
 Outcome RunModifiable(const CommandCall& call) {
-  return Answer(call.Component.IsCVSModifiable(call.Product.Get()));
+  return Answer(call.Component.IsCVSModifiable(call.Product().Get()));
 }
 
 }  // namespace zrkhost

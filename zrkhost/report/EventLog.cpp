@@ -30,6 +30,7 @@ EventLog::~EventLog() {
 }
 
 std::vector<Json> EventLog::Take() {
+  launches_.clear();
   return std::exchange(events_, {});
 }
 
@@ -40,6 +41,7 @@ void EventLog::Debug(const std::wstring& message) {
 }
 
 void EventLog::Launch(const LaunchEvent& launch) {
+  launches_.push_back(launch);
   const auto program = Utf8FromWide(launch.Program);
   const auto commandLine = Utf8FromWide(launch.CommandLine);
   const auto folder = Utf8FromWide(launch.Folder);

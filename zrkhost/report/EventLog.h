@@ -20,6 +20,8 @@ public:
 
   // Gives the events since the last call, as they stand in the report.
   std::vector<nlohmann::ordered_json> Take();
+  // The launches since that call.
+  const std::vector<LaunchEvent>& Launches() const { return launches_; }
 
 private:
   void Debug(const std::wstring& message);
@@ -29,6 +31,7 @@ private:
   User& user_;
   bool verbose_;
   std::vector<nlohmann::ordered_json> events_;
+  std::vector<LaunchEvent> launches_;
 };
 
 }  // namespace zrkhost

@@ -12,7 +12,11 @@ struct LaunchEvent {
   bool Started = false;
 };
 
-// Hears of every call of CreateProcessW where that function is the stand-in's own; on Windows, of none.
+// Whether launches can be heard of: on Linux, where CreateProcessW is the stand-in's own. Windows has no
+// means to hear of them.
+bool LaunchesAreKnown();
+
+// Hears of every call of CreateProcessW where they are known; else of none.
 // An empty function: nobody listens.
 void ListenToLaunches(std::function<void(const LaunchEvent&)> listener);
 

@@ -2,6 +2,10 @@
 
 namespace zrkhost {
 
+bool LaunchesAreKnown() {
+  return false;
+}
+
 void ListenToLaunches(std::function<void(const LaunchEvent&)>) {}
 
 }  // namespace zrkhost

@@ -5,6 +5,7 @@
 
 #include "base/CallError.h"
 #include "base/Encoding.h"
+#include "run/RefreshReason.h"
 #include "session/ProductFacts.h"
 #include "terminal/DisplayText.h"
 #include "terminal/StandardInput.h"
@@ -57,9 +58,15 @@ bool Console::Run(const Command& command) {
   const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
   auto output = output_.Take();
   output_.Write(outcome.ShowTree ? Tree() : outcome.Shown);
+  if (outcome.Refreshed) TellWhyNothingIsShown(command, *outcome.Refreshed);
   failed_ = failed_ || outcome.Failed();
   if (report_) report_->Add({command, outcome, seconds.count(), std::move(output), events_.Take()});
   return !outcome.Quit;
+}
+
+void Console::TellWhyNothingIsShown(const Command& command, const Place& refreshed) const {
+  const auto reason = WhyNothingIsShown(session_, refreshed, events_.Launches());
+  if (reason) PrintError(DisplayText(Utf8FromNative(command.Line) + ": " + *reason));
 }
 
 std::string Console::Tree() const {

@@ -30,6 +30,7 @@ public:
 private:
   // False after `quit`.
   bool Run(const Command& command);
+  void TellWhyNothingIsShown(const Command& command, const Place& refreshed) const;
   std::string Tree() const;
 
   const HostSession& session_;

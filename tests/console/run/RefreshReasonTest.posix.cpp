@@ -1,0 +1,49 @@
+// Reasons that only launches tell, which are known on this system alone.
+
+#include "console/ConsoleTest.h"
+#include "support/CVSFolder.h"
+#include "support/Files.h"
+#include "support/ScriptedClient.h"
+
+namespace {
+
+using testing::HasSubstr;
+
+class RefreshReasonOnPosix : public ConsoleTest {
+protected:
+  RefreshReasonOnPosix() { WriteCVSFolder(folder_ / "proj", "/cvs/root", "proj"); }
+
+  std::string ReasonOf(const std::string& session) const {
+    const auto result = Zrkhost({session, "--clients", "none", "-c", "refresh"});
+    EXPECT_EQ(result.Status, 0);
+    return result.Error;
+  }
+
+  std::string Car() const {
+    return Session(R"({"root": "car", "products": {"car": {"document": "proj/car"}}})");
+  }
+};
+
+TEST_F(RefreshReasonOnPosix, IsThatAClientCouldNotBeStarted) {
+  WriteFile(folder_ / "bin/cvs.exe", "no program");
+  std::filesystem::permissions(folder_ / "bin/cvs.exe", std::filesystem::perms::owner_all);
+  const EnvironmentVariable path("PATH", Path("bin"));
+  EXPECT_EQ(ReasonOf(Car()),
+            "zrkhost: refresh: " + Host("bin/cvs.exe") + " could not be started in " + Host("") + "\n");
+}
+
+TEST_F(RefreshReasonOnPosix, IsThatTheClientToldNothing) {
+  const ScriptedClient client;
+  EXPECT_EQ(ReasonOf(Car()),
+            "zrkhost: refresh: the client told of no document of the tree; --verbose shows how it was run\n");
+}
+
+TEST_F(RefreshReasonOnPosix, IsToldWhenNoClientWasStartedThoughAttributesWereThere) {
+  const ScriptedClient client;
+  WriteFile(folder_ / "proj/CVS/Repository", "elsewhere\n");
+  const auto session = Session(R"({"root": "car", "products": {
+      "car": {"document": "proj/car", "attributes": {"Status": "Edit"}}}})");
+  EXPECT_THAT(ReasonOf(session), HasSubstr("cvs.exe was not started for the working copy " + Host("proj")));
+}
+
+}  // namespace

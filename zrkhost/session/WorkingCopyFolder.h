@@ -1,0 +1,19 @@
+#pragma once
+
+#include <filesystem>
+
+namespace zrkhost {
+
+enum class WorkingCopyKind { None, CVS, Subversion };
+
+// What the files beside a document tell about its folder:
+//
+//   CVS         CVS/Repository in the folder
+//   Subversion  .svn/entries in the folder, or .svn/wc.db in it or in the nearest folder above that holds
+//   one; the
+//               way up ends at a folder of CVS and at one with a list of entries of its own
+//
+// A folder that does not exist is none.
+WorkingCopyKind WorkingCopyKindOf(const std::filesystem::path& folder);
+
+}  // namespace zrkhost
