@@ -15,12 +15,16 @@
 #include "session/HostSession.h"
 #include "session/SessionFile.h"
 #include "terminal/OutputCapture.h"
+#include "terminal/ProgressLine.h"
 #include "terminal/Terminal.h"
 #include "terminal/User.h"
 
 namespace {
 
 using namespace zrkhost;
+
+constexpr int kStandardInput = 0;
+constexpr int kStandardError = 2;
 
 SessionDescription Describe(const Options& options) {
   if (options.SessionFile) return ReadSessionFile(PathFromNative(*options.SessionFile));
@@ -57,7 +61,7 @@ void CheckReport(const Options& options) {
 
 int Run(const Options& options) {
   CheckReport(options);
-  const bool prompt = options.Commands.empty() && !options.CommandFile && IsTerminal(0);
+  const bool prompt = options.Commands.empty() && !options.CommandFile && IsTerminal(kStandardInput);
   const auto description = Describe(options);
   std::vector<SourcedCommand> commands;
   if (!prompt) commands = ReadCommands(options);
@@ -72,9 +76,10 @@ int Run(const Options& options) {
 
   std::optional<bool> answer;
   if (options.Answer) answer = *options.Answer == "yes";
-  User user(output, answer);
-  EventLog events(user, options.Verbose);
-  Console console(session, plugin, output, events, report.get());
+  ProgressLine progress(!options.Verbose && CanRewriteLines(kStandardError));
+  User user(output, progress, answer);
+  EventLog events(user, progress, options.Verbose);
+  Console console(session, plugin, output, events, progress, report.get());
   if (prompt) {
     console.RunPrompt();
   } else {
@@ -97,6 +102,7 @@ int Run(const Options& options) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  HoldStandardError();
   try {
     int status = 0;
     const auto options = ParseCommandLine(argc, argv, status);

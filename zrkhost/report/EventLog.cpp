@@ -13,7 +13,8 @@ namespace zrkhost {
 
 using Json = nlohmann::ordered_json;
 
-EventLog::EventLog(User& user, bool verbose) : user_(user), verbose_(verbose) {
+EventLog::EventLog(User& user, ProgressLine& progress, bool verbose)
+    : user_(user), progress_(progress), verbose_(verbose) {
   standin::SetDebugListener([this](const std::wstring& message) { Debug(message); });
   standin::SetDialogResponder([this](const standin::DialogRequest& request) { return Dialog(request); });
   standin::SetRedrawListener([this](const CATBaseUnknown_var& product) {
@@ -42,6 +43,7 @@ void EventLog::Debug(const std::wstring& message) {
 
 void EventLog::Launch(const LaunchEvent& launch) {
   launches_.push_back(launch);
+  if (launch.Started) progress_.CountClientRun();
   const auto program = Utf8FromWide(launch.Program);
   const auto commandLine = Utf8FromWide(launch.CommandLine);
   const auto folder = Utf8FromWide(launch.Folder);

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "report/LaunchEvents.h"
+#include "terminal/ProgressLine.h"
 #include "terminal/User.h"
 
 namespace zrkhost {
@@ -13,7 +14,8 @@ namespace zrkhost {
 class EventLog {
 public:
   // `verbose`: launches and debugger messages also go to standard error as they happen.
-  EventLog(User& user, bool verbose);
+  // `progress` learns of the clients that are run.
+  EventLog(User& user, ProgressLine& progress, bool verbose);
   ~EventLog();
   EventLog(const EventLog&) = delete;
   EventLog& operator=(const EventLog&) = delete;
@@ -29,6 +31,7 @@ private:
   standin::DialogAnswer Dialog(const standin::DialogRequest& request);
 
   User& user_;
+  ProgressLine& progress_;
   bool verbose_;
   std::vector<nlohmann::ordered_json> events_;
   std::vector<LaunchEvent> launches_;

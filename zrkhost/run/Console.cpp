@@ -15,8 +15,13 @@
 namespace zrkhost {
 
 Console::Console(const HostSession& session, const Plugin& plugin, OutputCapture& output, EventLog& events,
-                 Report* report)
-    : session_(session), plugin_(plugin), output_(output), events_(events), report_(report) {}
+                 ProgressLine& progress, Report* report)
+    : session_(session),
+      plugin_(plugin),
+      output_(output),
+      events_(events),
+      progress_(progress),
+      report_(report) {}
 
 void Console::RunAll(const std::vector<SourcedCommand>& commands) {
   for (const auto& [source, command] : commands) {
@@ -50,6 +55,7 @@ bool Console::Run(const Command& command) {
   Outcome outcome;
   const auto start = std::chrono::steady_clock::now();
   try {
+    const ProgressLine::Work work(progress_, Utf8FromNative(command.Line));
     outcome = RunCommand(command, session_, plugin_);
   } catch (const std::exception& error) {
     PrintError(Utf8FromNative(command.Line + ": " + error.what()));

@@ -8,6 +8,7 @@
 #include "report/Report.h"
 #include "session/HostSession.h"
 #include "terminal/OutputCapture.h"
+#include "terminal/ProgressLine.h"
 
 namespace zrkhost {
 
@@ -16,7 +17,7 @@ class Console {
 public:
   // `report` may be null.
   Console(const HostSession& session, const Plugin& plugin, OutputCapture& output, EventLog& events,
-          Report* report);
+          ProgressLine& progress, Report* report);
 
   // Up to the first `quit`.
   void RunAll(const std::vector<SourcedCommand>& commands);
@@ -37,6 +38,7 @@ private:
   const Plugin& plugin_;
   OutputCapture& output_;
   EventLog& events_;
+  ProgressLine& progress_;
   Report* report_;
   bool failed_ = false;
 };

@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <cstdlib>
+#include <string_view>
 
 namespace zrkhost {
 
@@ -14,6 +15,9 @@ HANDLE HandleOf(int descriptor) {
 }
 
 }  // namespace
+
+// The C runtime gives the place to nothing else.
+void HoldStandardError() {}
 
 bool IsTerminal(int descriptor) {
   DWORD mode = 0;
@@ -27,10 +31,15 @@ int TerminalWidth(int descriptor) {
   return screen.srWindow.Right - screen.srWindow.Left + 1;
 }
 
+bool CanRewriteLines(int descriptor) {
+  const char* kind = std::getenv("TERM");
+  return IsTerminal(descriptor) && !(kind && std::string_view(kind) == "dumb");
+}
+
 bool TakesColours(int descriptor) {
   constexpr DWORD kProcessSequences = 0x0004;
   DWORD mode = 0;
-  if (!IsTerminal(descriptor) || std::getenv("NO_COLOR")) return false;
+  if (!CanRewriteLines(descriptor) || std::getenv("NO_COLOR")) return false;
   return GetConsoleMode(HandleOf(descriptor), &mode) &&
          SetConsoleMode(HandleOf(descriptor), mode | kProcessSequences);
 }

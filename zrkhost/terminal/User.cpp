@@ -16,11 +16,13 @@ constexpr int kStandardInput = 0;
 
 }  // namespace
 
-User::User(OutputCapture& output, std::optional<bool> answer) : output_(output), answer_(answer) {
+User::User(OutputCapture& output, ProgressLine& progress, std::optional<bool> answer)
+    : output_(output), progress_(progress), answer_(answer) {
   if (!answer_ && !IsTerminal(kStandardInput)) answer_ = false;
 }
 
 standin::DialogAnswer User::Answer(const standin::DialogRequest& request) {
+  const ProgressLine::Hidden hidden(progress_);
   // What was written before the dialog came up is to be read before it.
   output_.Forward();
   std::cerr << "[" << DisplayText(Utf8FromNative(request.Title)) << "] "

@@ -4,6 +4,7 @@
 
 #include "dialogs/UserInterface.h"
 #include "terminal/OutputCapture.h"
+#include "terminal/ProgressLine.h"
 
 namespace zrkhost {
 
@@ -11,7 +12,8 @@ namespace zrkhost {
 class User {
 public:
   // `answer`: what every question is answered; absent: asked when standard input is a terminal, else no.
-  User(OutputCapture& output, std::optional<bool> answer);
+  // `progress` gives way to a dialog.
+  User(OutputCapture& output, ProgressLine& progress, std::optional<bool> answer);
 
   standin::DialogAnswer Answer(const standin::DialogRequest& request);
 
@@ -19,6 +21,7 @@ private:
   bool AnswerQuestion();
 
   OutputCapture& output_;
+  ProgressLine& progress_;
   std::optional<bool> answer_;
 };
 

@@ -1,16 +1,4 @@
-#include <fcntl.h>
-#include <pty.h>
-#include <spawn.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <array>
-#include <cerrno>
-#include <csignal>
-#include <cstdlib>
-#include <system_error>
-
-#include "console/ConsoleTest.h"
+#include "console/TerminalTest.h"
 #include "support/CVSFolder.h"
 #include "support/Files.h"
 #include "support/ScriptedClient.h"
@@ -21,57 +9,10 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
 
-// Calls with a person's terminal as standard input, output and error.
-class Terminal : public ConsoleTest {
-protected:
-  struct Result {
-    int Status;
-    // All that appeared on the screen, what was typed among it; line ends are CR LF.
-    std::string Screen;
-  };
-
-  // What is typed waits in the terminal until the program reads it.
-  Result Type(std::vector<std::string> arguments, const std::string& typed,
-              unsigned short columns = 200) const {
-    arguments.insert(arguments.begin(), Program().string());
-    std::vector<char*> pointers;
-    for (auto& argument : arguments) pointers.push_back(argument.data());
-    pointers.push_back(nullptr);
-
-    winsize size{.ws_row = 50, .ws_col = columns, .ws_xpixel = 0, .ws_ypixel = 0};
-    int terminal = -1;
-    const pid_t process = forkpty(&terminal, nullptr, nullptr, &size);
-    if (process < 0) throw std::system_error(errno, std::generic_category(), "forkpty");
-    if (process == 0) {
-      execv(pointers[0], pointers.data());
-      _exit(127);
-    }
-    if (write(terminal, typed.data(), typed.size()) != static_cast<ssize_t>(typed.size())) {
-      throw std::system_error(errno, std::generic_category(), "write");
-    }
-    Result result{};
-    std::array<char, 4096> buffer;
-    for (;;) {
-      // Reading fails once the program and its terminal are gone.
-      const ssize_t count = read(terminal, buffer.data(), buffer.size());
-      if (count < 0 && errno == EINTR) continue;
-      if (count <= 0) break;
-      result.Screen.append(buffer.data(), static_cast<std::size_t>(count));
-    }
-    close(terminal);
-    int status = 0;
-    while (waitpid(process, &status, 0) < 0 && errno == EINTR) {
-    }
-    result.Status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-    return result;
-  }
-
-  const EnvironmentVariable kind_{"TERM", "xterm"};
-  const EnvironmentVariable colours_{"NO_COLOR", std::nullopt};
-};
+using Terminal = TerminalTest;
 
 TEST_F(Terminal, IsAskedForCommandsUntilQuit) {
-  const auto result = Type({CarSession()}, "cvsable\nquit\ncvsable\n");
+  const auto result = Prompted({CarSession()}, {"cvsable\n", "quit\n"});
   EXPECT_EQ(result.Status, 0);
   EXPECT_THAT(result.Screen, HasSubstr("zrkhost> "));
   // The answer of the first `cvsable` and no other.
@@ -80,13 +21,14 @@ TEST_F(Terminal, IsAskedForCommandsUntilQuit) {
 }
 
 TEST_F(Terminal, IsAskedForCommandsUntilItsInputEnds) {
-  const auto result = Type({CarSession()}, "cvsable\n\x04");
+  const auto result = Prompted({CarSession()}, {"cvsable\n", "\x04"});
   EXPECT_EQ(result.Status, 0);
   EXPECT_THAT(result.Screen, HasSubstr("1\r\n"));
 }
 
 TEST_F(Terminal, IsToldWhatIsWrongWithALineAndAskedAgain) {
-  const auto result = Type({CarSession()}, "nonsense\nedit car/gone\n\nstorage\nquit\n");
+  const auto result =
+      Prompted({CarSession()}, {"nonsense\n", "edit car/gone\n", "\n", "storage\n", "quit\n"});
   EXPECT_EQ(result.Status, 0);
   EXPECT_THAT(result.Screen, HasSubstr("zrkhost: unknown command \"nonsense\"\r\n"));
   EXPECT_THAT(result.Screen, HasSubstr("zrkhost: there is no product \"car/gone\" in the tree\r\n"));
@@ -94,25 +36,25 @@ TEST_F(Terminal, IsToldWhatIsWrongWithALineAndAskedAgain) {
 }
 
 TEST_F(Terminal, LearnsAtTheEndThatACommandGaveAnotherResult) {
-  EXPECT_EQ(Type({CarSession()}, "edit\nquit\n").Status, 1);
+  EXPECT_EQ(Prompted({CarSession()}, {"edit\n", "quit\n"}).Status, 1);
 }
 
 TEST_F(Terminal, ShowsTheTreeInColours) {
   const auto session = Session(R"({"root": "car", "products": {"car": {"attributes": {"Status": "Edit"}}}})");
-  EXPECT_THAT(Type({session, "-c", "tree"}, "").Screen, HasSubstr("\x1b[32mEdit\x1b[0m"));
+  EXPECT_THAT(Converse({session, "-c", "tree"}, {}).Screen, HasSubstr("\x1b[32mEdit\x1b[0m"));
 }
 
 TEST_F(Terminal, ShowsNoColoursWithNoColor) {
   const EnvironmentVariable none("NO_COLOR", "1");
   const auto session = Session(R"({"root": "car", "products": {"car": {"attributes": {"Status": "Edit"}}}})");
-  const auto result = Type({session, "-c", "tree"}, "");
+  const auto result = Converse({session, "-c", "tree"}, {});
   EXPECT_THAT(result.Screen, HasSubstr("Edit"));
   EXPECT_THAT(result.Screen, Not(HasSubstr("\x1b")));
 }
 
 TEST_F(Terminal, ShowsNoColoursWhereThereAreNone) {
   const EnvironmentVariable dumb("TERM", "dumb");
-  EXPECT_THAT(Type({CarSession(), "-c", "tree"}, "").Screen, Not(HasSubstr("\x1b")));
+  EXPECT_THAT(Converse({CarSession(), "-c", "tree"}, {}).Screen, Not(HasSubstr("\x1b")));
 }
 
 TEST_F(Terminal, IsTheOnlyPlaceForColours) {
@@ -126,7 +68,7 @@ TEST_F(Terminal, GetsCommentsCutToItsWidth) {
   comment.resize(300, 'x');
   const auto session = Session(
       Json{{"root", "car"}, {"products", {{"car", {{"attributes", {{"Comment", comment}}}}}}}}.dump());
-  const auto result = Type({session, "-c", "tree"}, "", 60);
+  const auto result = Converse({session, "-c", "tree"}, {}, 60);
   EXPECT_THAT(result.Screen, EndsWith("x\u2026\r\n"));
   std::size_t longest = 0;
   for (std::size_t start = 0; start < result.Screen.size();) {
@@ -158,40 +100,47 @@ protected:
 };
 
 TEST_F(TerminalQuestion, IsAnsweredByThePerson) {
-  const auto yes = Type({session_, "-c", "unedit"}, "y\n");
+  const auto yes = Converse({session_, "-c", "unedit"}, {{" [y/n] ", "y\n"}});
   EXPECT_EQ(yes.Status, 0);
   EXPECT_THAT(yes.Screen, HasSubstr("[CVS] car.CATProduct "));
   EXPECT_THAT(yes.Screen, HasSubstr(" [y/n] "));
-  EXPECT_EQ(Type({session_, "-c", "unedit"}, "n\n").Status, 1);
+  EXPECT_EQ(Converse({session_, "-c", "unedit"}, {{" [y/n] ", "n\n"}}).Status, 1);
 }
 
 TEST_F(TerminalQuestion, IsAskedAgainUntilItIsAnswered) {
-  EXPECT_EQ(Type({session_, "-c", "unedit"}, "perhaps\n\nyes\n").Status, 0);
+  EXPECT_EQ(Converse({session_, "-c", "unedit"},
+                     {{" [y/n] ", "perhaps\n"}, {" [y/n] ", "\n"}, {" [y/n] ", "yes\n"}})
+                .Status,
+            0);
 }
 
 TEST_F(TerminalQuestion, IsAnsweredNoByTheEndOfTheInput) {
-  EXPECT_EQ(Type({session_, "-c", "unedit"}, "\x04").Status, 1);
+  EXPECT_EQ(Converse({session_, "-c", "unedit"}, {{" [y/n] ", "\x04"}}).Status, 1);
 }
 
 TEST_F(TerminalQuestion, IsAskedAfterCommandsThatWereTypedToTheirEnd) {
-  const auto result = Type({session_, "--commands", "-"}, "unedit\n\x04y\n");
+  const auto result = Converse({session_, "--commands", "-"}, {{"", "unedit\n\x04"}, {" [y/n] ", "y\n"}});
   EXPECT_EQ(result.Status, 0);
   EXPECT_THAT(result.Screen, HasSubstr("unedit: result 0, now \"Edit\"\r\n"));
 }
 
 TEST_F(TerminalQuestion, IsAllThatEndsWithTheEndOfTheInput) {
-  const auto result = Type({session_}, "unedit\n\x04storage\nquit\n");
+  const auto result = Converse(
+      {session_},
+      {{"zrkhost> ", "unedit\n"}, {" [y/n] ", "\x04"}, {"zrkhost> ", "storage\n"}, {"zrkhost> ", "quit\n"}});
   EXPECT_EQ(result.Status, 1);
   EXPECT_THAT(result.Screen, HasSubstr("unedit: result 1, now \"Edit\"\r\n"));
   EXPECT_THAT(result.Screen, HasSubstr(Host("proj/car.CATProduct")));
 }
 
 TEST_F(TerminalQuestion, IsNotAskedWhenTheCallHoldsTheAnswer) {
-  EXPECT_EQ(Type({session_, "-c", "unedit", "--answer", "yes"}, "").Status, 0);
+  EXPECT_EQ(Converse({session_, "-c", "unedit", "--answer", "yes"}, {}).Status, 0);
 }
 
 TEST_F(TerminalQuestion, IsAskedBetweenCommands) {
-  const auto result = Type({session_}, "unedit\ny\ncvsable\nquit\n");
+  const auto result = Converse(
+      {session_},
+      {{"zrkhost> ", "unedit\n"}, {" [y/n] ", "y\n"}, {"zrkhost> ", "cvsable\n"}, {"zrkhost> ", "quit\n"}});
   EXPECT_EQ(result.Status, 0);
   EXPECT_THAT(result.Screen, HasSubstr("unedit: result 0, now \"Edit\"\r\n"));
 }
