@@ -1,8 +1,7 @@
 #include "report/Report.h"
 
-#include "base/CallError.h"
 #include "base/Encoding.h"
-#include "session/ProductFacts.h"
+#include "session/ProductRecords.h"
 
 namespace zrkhost {
 
@@ -15,26 +14,22 @@ Json OrNull(const std::optional<Value>& value) {
   return value ? Json(*value) : Json(nullptr);
 }
 
-Json ProductJson(const Place& place) {
+Json ProductJson(const ProductRecord& record) {
   Json product;
-  product["path"] = Utf8FromNative(standin::ProductPath(place.Product));
-  const auto reference = standin::ReferenceName(place.Product);
-  product["reference"] = reference.empty() ? Json(nullptr) : Json(Utf8FromNative(reference));
-  const auto document = DocumentOf(place.Product);
-  product["document"] = document ? Json(Utf8FromNative(*document)) : Json(nullptr);
+  product["path"] = record.Path;
+  product["reference"] = OrNull(record.Reference);
+  product["document"] = OrNull(record.Document);
   product["attributes"] = nullptr;
-  if (const auto attributes = AttributesOf(place.Product)) {
+  if (record.Attributes) {
     product["attributes"] = Json::object();
-    for (const auto& [name, value] : *attributes) product["attributes"][name] = value;
+    for (const auto& [name, value] : *record.Attributes) product["attributes"][name] = value;
   }
   return product;
 }
 
 }  // namespace
 
-Report::Report(const std::filesystem::path& file) : stream_(file, std::ios::binary) {
-  if (!stream_) throw CallError(Utf8FromPath(file) + ": the report cannot be written");
-}
+Report::Report(const std::filesystem::path& file) : file_(file, "report") {}
 
 void Report::Add(const CommandRecord& record) {
   Json command;
@@ -52,11 +47,9 @@ bool Report::Write(const HostSession& session) {
   Json report;
   report["commands"] = std::move(commands_);
   report["products"] = Json::array();
-  for (const Place& place : session.Places()) report["products"].push_back(ProductJson(place));
+  for (const ProductRecord& record : RecordsOf(session)) report["products"].push_back(ProductJson(record));
   // Every text was made well-formed when it was taken over; should one not be, the report is still written.
-  stream_ << report.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
-  stream_.close();
-  return stream_.good();
+  return file_.Write(report.dump(2, ' ', false, Json::error_handler_t::replace) + '\n');
 }
 
 }  // namespace zrkhost

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <filesystem>
-#include <fstream>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 
+#include "base/OutputFile.h"
 #include "commands/Commands.h"
 #include "session/HostSession.h"
 
@@ -33,7 +33,7 @@ public:
   bool Write(const HostSession& session);
 
 private:
-  std::ofstream stream_;
+  OutputFile file_;
   nlohmann::ordered_json commands_ = nlohmann::ordered_json::array();
 };
 

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <string_view>
+
+namespace zrkhost {
+
+// A file that a call is asked to write in the end. It is opened before anything is run, so that one that
+// cannot be written is known by then; opening empties it.
+class OutputFile {
+public:
+  // `what` it holds, for messages, such as "report". Throws CallError.
+  OutputFile(const std::filesystem::path& file, const std::string& what);
+
+  // All that the file holds. False when it does not take it.
+  bool Write(std::string_view text);
+
+private:
+  std::ofstream stream_;
+};
+
+}  // namespace zrkhost
