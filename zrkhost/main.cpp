@@ -7,6 +7,7 @@
 #include "call/CommandSource.h"
 #include "call/ExitStatus.h"
 #include "call/Surroundings.h"
+#include "page/Page.h"
 #include "plugin/Plugin.h"
 #include "report/EventLog.h"
 #include "report/Report.h"
@@ -47,20 +48,33 @@ void PrepareClients(const Options& options) {
                     ": cannot be put into PATH: its name holds the separator of folders");
 }
 
-// Opening the report empties its file.
-void CheckReport(const Options& options) {
-  if (!options.Report) return;
-  const auto report = PathFromNative(*options.Report);
-  for (const auto& input : {options.SessionFile, options.CommandFile}) {
-    std::error_code error;
-    if (input && std::filesystem::is_regular_file(report, error) &&
-        std::filesystem::equivalent(report, PathFromNative(*input), error))
-      throw CallError(Utf8FromPath(report) + ": the report would overwrite what the call reads");
+// Also when neither is there yet.
+bool AreOneFile(const std::filesystem::path& one, const std::filesystem::path& other) {
+  std::error_code error;
+  if (std::filesystem::is_regular_file(one, error)) return std::filesystem::equivalent(one, other, error);
+  if (std::filesystem::exists(one, error)) return false;
+  const auto place = std::filesystem::weakly_canonical(one, error);
+  return !error && place == std::filesystem::weakly_canonical(other, error);
+}
+
+// Opening a file to write empties it.
+void CheckOutputs(const Options& options) {
+  const auto check = [](const std::optional<std::string>& output, const std::string& what,
+                        const std::optional<std::string>& other, const std::string& role) {
+    if (output && other && AreOneFile(PathFromNative(*output), PathFromNative(*other)))
+      throw CallError(Utf8FromPath(PathFromNative(*output)) + ": the " + what + " would overwrite " + role);
+  };
+  const bool commandsFromFile = options.CommandFile != "-";
+  for (const auto& input :
+       {options.SessionFile, commandsFromFile ? options.CommandFile : std::nullopt, options.Plugin}) {
+    check(options.Report, "report", input, "what the call reads");
+    check(options.Page, "page", input, "what the call reads");
   }
+  check(options.Page, "page", options.Report, "the report");
 }
 
 int Run(const Options& options) {
-  CheckReport(options);
+  CheckOutputs(options);
   const bool prompt = options.Commands.empty() && !options.CommandFile && IsTerminal(kStandardInput);
   const auto description = Describe(options);
   std::vector<SourcedCommand> commands;
@@ -73,6 +87,8 @@ int Run(const Options& options) {
   CheckProducts(commands, session);
   std::unique_ptr<Report> report;
   if (options.Report) report = std::make_unique<Report>(PathFromNative(*options.Report));
+  std::unique_ptr<Page> page;
+  if (options.Page) page = std::make_unique<Page>(PathFromNative(*options.Page));
 
   std::optional<bool> answer;
   if (options.Answer) answer = *options.Answer == "yes";
@@ -89,6 +105,10 @@ int Run(const Options& options) {
   bool written = true;
   if (report && !report->Write(session)) {
     PrintError(Utf8FromNative(*options.Report) + ": the report cannot be written");
+    written = false;
+  }
+  if (page && !page->Write(session)) {
+    PrintError(Utf8FromNative(*options.Page) + ": the page cannot be written");
     written = false;
   }
   output.Forward();

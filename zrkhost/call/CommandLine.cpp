@@ -57,6 +57,10 @@ void AddOptions(CLI::App& app, Options& options) {
   app.add_option("--report", options.Report, "Write a JSON report when all commands have run")
       ->type_name("FILE")
       ->check(NotEmpty);
+  app.add_option("--page", options.Page,
+                 "Write the product tree after the last command as an HTML page")
+      ->type_name("FILE")
+      ->check(NotEmpty);
   app.add_option("--plugin", options.Plugin,
                  "Component library to load; default: the one built or installed beside zrkhost")
       ->type_name("FILE")

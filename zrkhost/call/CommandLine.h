@@ -18,6 +18,7 @@ struct Options {
   std::optional<std::string> Answer;
   bool Verbose = false;
   std::optional<std::string> Report;
+  std::optional<std::string> Page;
   std::optional<std::string> Plugin;
   std::optional<std::string> Clients;
 };

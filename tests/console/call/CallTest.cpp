@@ -54,7 +54,7 @@ TEST_F(Call, RefusesUnknownOptionsAndMissingValues) {
 
 TEST_F(Call, RefusesEmptyValuesByTheNameOfTheOption) {
   ExpectRefused(Zrkhost({"", "-c", "tree"}), "SESSION: must not be empty");
-  for (const char* option : {"--commands", "--report", "--plugin", "--clients"}) {
+  for (const char* option : {"--commands", "--report", "--page", "--plugin", "--clients"}) {
     ExpectRefused(Zrkhost({CarSession(), "-c", "tree", option, ""}),
                   std::string(option) + ": must not be empty");
   }
@@ -72,9 +72,9 @@ TEST_F(Call, PrintsItsVersionAndHelp) {
   EXPECT_EQ(version.Output, "zrkhost " PROJECT_VERSION "\n");
   const auto help = Zrkhost({"--help"});
   EXPECT_EQ(help.Status, 0);
-  for (const char* told :
-       {"SESSION", "--folder", "--root", "-c ", "--commands", "--answer", "--verbose", "--report", "--plugin",
-        "--clients", "refresh", "status", "unedit", "meant from the current folder", "Exit status"}) {
+  for (const char* told : {"SESSION", "--folder", "--root", "-c ", "--commands", "--answer", "--verbose",
+                           "--report", "--page", "--plugin", "--clients", "refresh", "status", "unedit",
+                           "meant from the current folder", "Exit status"}) {
     EXPECT_THAT(help.Output, HasSubstr(told));
   }
 }
