@@ -4,11 +4,17 @@
 
 #include "attributes/AttributeClass.h"
 #include "attributes/AttributeInstance.h"
+#include "framework/Misuse.h"
 
 namespace standin {
 namespace {
 
 bool newInstancesRefused = false;
+
+const ZRKIAttClass_var& NotNull(const ZRKIAttClass_var& attributeClass) {
+  if (!attributeClass) EndOnMisuse("An attribute instance of no class was asked for.");
+  return attributeClass;
+}
 
 }  // namespace
 
@@ -17,7 +23,7 @@ void RefuseNewInstances(bool refuse) {
 }
 
 CATBaseUnknown_var AttributeCarrier::FindInstance(const ZRKIAttClass_var& attributeClass) {
-  const CATBaseUnknown* const wanted = ClassBehind(attributeClass);
+  const CATBaseUnknown* const wanted = ClassBehind(NotNull(attributeClass));
   for (const Carried& carried : carried_) {
     if (carried.Class.Get() == wanted) return carried.Instance;
   }
@@ -26,7 +32,7 @@ CATBaseUnknown_var AttributeCarrier::FindInstance(const ZRKIAttClass_var& attrib
 
 HRESULT AttributeCarrier::AddInstance(const ZRKIAttClass_var& attributeClass,
                                       const ZRKIAttInstance_var& model) {
-  AttributeClass* const description = ClassBehind(attributeClass);
+  AttributeClass* const description = ClassBehind(NotNull(attributeClass));
   if (!description || newInstancesRefused || FindInstance(attributeClass)) return E_FAIL;
   AttributeInstance* const instance = AttributeInstance::Create(description->Description());
   if (!instance) return E_FAIL;
@@ -36,7 +42,7 @@ HRESULT AttributeCarrier::AddInstance(const ZRKIAttClass_var& attributeClass,
 }
 
 void AttributeCarrier::RemoveInstance(const ZRKIAttClass_var& attributeClass) {
-  const CATBaseUnknown* const unwanted = ClassBehind(attributeClass);
+  const CATBaseUnknown* const unwanted = ClassBehind(NotNull(attributeClass));
   std::erase_if(carried_, [unwanted](const Carried& carried) { return carried.Class.Get() == unwanted; });
 }
 

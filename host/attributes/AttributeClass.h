@@ -2,6 +2,7 @@
 
 #include "attributes/AttributeDictionary.h"
 #include "framework/Facet.h"
+#include "framework/Misuse.h"
 
 namespace standin {
 
@@ -23,7 +24,8 @@ private:
   struct StatusPart final : Facet<ZRKIAttStatus> {
     explicit StatusPart(AttributeClass& self) : Facet(self), Self(self) {}
     unsigned char IsModifiable(const CATISpecObject_var& object) override {
-      return object ? Self.description_.Modifiable : 0;
+      if (!object) EndOnMisuse("Nothing was asked about whether it may be modified.");
+      return Self.description_.Modifiable;
     }
     AttributeClass& Self;
   };

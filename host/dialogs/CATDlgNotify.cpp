@@ -1,11 +1,10 @@
 #include "CATDlgNotify.h"
 
-#include <cstdio>
-#include <cstdlib>
 #include <set>
 #include <utility>
 
 #include "dialogs/UserInterface.h"
+#include "framework/Misuse.h"
 
 namespace standin {
 namespace {
@@ -58,8 +57,7 @@ CATDlgNotify::~CATDlgNotify() {
 
 int CATDlgNotify::DisplayBlocked(const CATUnicodeString& message, const CATUnicodeString& title) {
   if (!standin::LiveDialogs().contains(this)) {
-    std::fputs("A message box was shown after its end.\n", stderr);
-    std::abort();
+    standin::EndOnMisuse("A message box was shown after its end.");
   }
   if (!hasParent_) return 0;
   isUp_ = true;

@@ -20,7 +20,7 @@ using ZRKIAttClass_var = CATHandle<ZRKIAttClass>;
 class ZRKIAttStatus : public CATBaseUnknown {
   CATDeclareInterface
 
-  // Non-zero when the object may be modified.
+  // Non-zero when the object, which is not null, may be modified.
   virtual unsigned char IsModifiable(const CATISpecObject_var& object) = 0;
 };
 using ZRKIAttStatus_var = CATHandle<ZRKIAttStatus>;
@@ -43,7 +43,7 @@ class ZRKIAttInstance : public CATBaseUnknown {
 };
 using ZRKIAttInstance_var = CATHandle<ZRKIAttInstance>;
 
-// An object that can carry instances, at most one of each class.
+// An object that can carry instances, at most one of each class. No class is null: the host fails on that.
 class ZRKIAttExtendable : public CATBaseUnknown {
   CATDeclareInterface
 

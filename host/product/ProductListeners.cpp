@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "CATPrsWorkModeServices.h"
-#include "product/Product.h"
+#include "framework/Misuse.h"
 #include "product/ProductModel.h"
 
 namespace standin {
@@ -37,7 +37,7 @@ void TellRedraw(const CATBaseUnknown_var& product) {
 }  // namespace standin
 
 void CATPrsWorkModeServices::SetWorkMode(const CATIProduct_var& product, int mode) {
-  standin::Product* const object = standin::ProductBehind(product);
+  if (!product) standin::EndOnMisuse("The work mode of no product was set.");
   const standin::WorkModeListener listener = standin::TheListeners().WorkMode;
-  if (object && listener) listener(CATBaseUnknown_var(object), mode);
+  if (listener) listener(product, mode);
 }

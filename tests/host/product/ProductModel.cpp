@@ -254,10 +254,14 @@ TEST(Product, TellsWhoListensItsWorkMode) {
     heard.push_back(ProductPath(product) + " " + std::to_string(mode));
   });
   CATPrsWorkModeServices::SetWorkMode(CATIProduct_var(model.Reference("axle")), 1);
-  CATPrsWorkModeServices::SetWorkMode(CATIProduct_var(), 1);
   standin::SetWorkModeListener({});
   CATPrsWorkModeServices::SetWorkMode(CATIProduct_var(model.Reference("axle")), 1);
   EXPECT_EQ(heard, std::vector<std::string>{"axle 1"});
+}
+
+TEST(ProductModelDeathTest, MustNotBeAskedForTheWorkModeOfNoProduct) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  EXPECT_DEATH(CATPrsWorkModeServices::SetWorkMode(CATIProduct_var(), 1), "no product");
 }
 
 TEST(Product, LivesAsLongAsItsModel) {
