@@ -37,18 +37,18 @@ std::int32_t LaunchTool(const ToolContext& context, const CATUnicodeString& comm
   return created;
 }
 
-// True when the client waits for an answer, false when its output has ended.
+// True when the output has ended; false when the client waits for an answer, or has written nothing.
 bool ReadOutput(const ToolContext& context, CATUnicodeString& output) {
   QuestionSearch question;
   char buffer[kChunkSize + 1];
   for (;;) {
     DWORD count = 0;
     buffer[0] = '\0';
-    if (!ReadFile(context.ChildOutput.Read.Get(), buffer, kChunkSize, &count, nullptr)) return false;
+    if (!ReadFile(context.ChildOutput.Read.Get(), buffer, kChunkSize, &count, nullptr)) return true;
     if (count == 0) return false;
     buffer[count] = '\0';
     output += buffer;
-    if (question.FindIn(text::View(output))) return true;
+    if (question.FindIn(text::View(output))) return false;
   }
 }
 
@@ -86,7 +86,7 @@ void RunTool(const ToolContext& context, const CATUnicodeString& arguments,
     context.ChildOutput.Read.Close();
     return;
   }
-  if (!ReadOutput(context, output)) context.ChildOutput.Close();
+  if (ReadOutput(context, output)) context.ChildOutput.Close();
 }
 
 void AnswerTool(const ToolContext& context, const char* answer) {
@@ -105,7 +105,8 @@ void FinishRun(const ToolContext& context) {
   if (hasClient && context.ChildOutput.Read.Get()) {
     char buffer[kChunkSize];
     DWORD count = 0;
-    while (ReadFile(context.ChildOutput.Read.Get(), buffer, sizeof(buffer), &count, nullptr) && count > 0) {
+    // An empty write of the client is not yet its end.
+    while (ReadFile(context.ChildOutput.Read.Get(), buffer, sizeof(buffer), &count, nullptr)) {
     }
   }
   context.ChildOutput.Close();

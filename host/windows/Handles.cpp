@@ -64,6 +64,7 @@ BOOL SetHandleInformation(HANDLE handle, DWORD mask, DWORD flags) {
 BOOL ReadFile(HANDLE handle, LPVOID buffer, DWORD size, LPDWORD read, LPOVERLAPPED overlapped) {
   Store(read, 0);
   if (TakesFault(WindowsCall::ReadFile)) return FALSE;
+  if (TakesFault(WindowsCall::ReadFileEmpty)) return TRUE;
   const auto object = HandleTable::Instance().Find(handle);
   if (!object || overlapped) return FALSE;
   if (size == 0) return CanBeRead(object->Descriptor.Get());

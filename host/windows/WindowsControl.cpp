@@ -13,7 +13,8 @@ namespace {
 constexpr int kNoFault = -1;
 
 std::mutex mutex;
-std::array<int, 7> successesLeft = {kNoFault, kNoFault, kNoFault, kNoFault, kNoFault, kNoFault, kNoFault};
+std::array<int, 8> successesLeft = {kNoFault, kNoFault, kNoFault, kNoFault,
+                                    kNoFault, kNoFault, kNoFault, kNoFault};
 static_assert(static_cast<std::size_t>(WindowsCall::CloseHandleInVain) + 1 == successesLeft.size());
 
 }  // namespace

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string>
+#include <cstdint>
 
 // Control of the stand-in: making its Windows functions fail, and counting what is left open.
 namespace standin {
@@ -11,6 +11,8 @@ enum class WindowsCall {
   CreateProcess,
   ReadFile,
   WriteFile,
+  // The same function. Succeeds without a byte, as when the other end writes none.
+  ReadFileEmpty,
   // Fails, but closes the handle all the same.
   CloseHandle,
   // The same function. Fails and leaves the handle open.
@@ -23,6 +25,9 @@ void FailWindowsCall(WindowsCall call, int successes);
 
 // Whether fopen opens a file as binary when its mode says neither "t" nor "b"; at first as text.
 void OpenFilesInBinary(bool binary);
+
+// Moves the time that clock gives on by so many milliseconds, or back.
+void MoveClock(std::int64_t milliseconds);
 
 // Handles of pipes, processes and threads that are open.
 int OpenHandleCount();

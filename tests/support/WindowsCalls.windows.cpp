@@ -17,7 +17,7 @@ using standin::WindowsCall;
 
 standin::LaunchListener listener;
 // By function: calls that still succeed before the one that fails; negative: none fails.
-std::array<int, 7> successesLeft = {-1, -1, -1, -1, -1, -1, -1};
+std::array<int, 8> successesLeft = {-1, -1, -1, -1, -1, -1, -1, -1};
 
 bool MustFail(WindowsCall call) {
   int& successes = successesLeft[static_cast<std::size_t>(call)];
@@ -59,6 +59,10 @@ BOOL WINAPI SetHandleInformationHere(HANDLE handle, DWORD mask, DWORD flags) {
 
 BOOL WINAPI ReadFileHere(HANDLE file, void* buffer, DWORD size, DWORD* count, OVERLAPPED* overlapped) {
   static const auto real = Real<decltype(ReadFile)>("ReadFile");
+  if (MustFail(WindowsCall::ReadFileEmpty)) {
+    *count = 0;
+    return TRUE;
+  }
   return !MustFail(WindowsCall::ReadFile) && real(file, buffer, size, count, overlapped);
 }
 

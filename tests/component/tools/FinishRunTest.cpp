@@ -4,6 +4,7 @@
 
 #include "component/tools/ToolRunner.h"
 #include "support/HandleCount.h"
+#include "windows/WindowsControl.h"
 
 namespace {
 
@@ -31,6 +32,12 @@ TEST_F(AWaitingClient, IsNotWaitedForByTheRun) {
 }
 
 TEST_F(AWaitingClient, HasEndedWhenItsRunIsFinished) {
+  zrk::tools::FinishRun(tool_.Context());
+  EXPECT_TRUE(HasEnded());
+}
+
+TEST_F(AWaitingClient, HasEndedAlsoWhenItWritesNoByteInBetween) {
+  standin::FailWindowsCall(standin::WindowsCall::ReadFileEmpty, 0);
   zrk::tools::FinishRun(tool_.Context());
   EXPECT_TRUE(HasEnded());
 }

@@ -55,6 +55,18 @@ TEST(Faults, OfCreateProcessStartNothing) {
   EXPECT_NE(Launch(L"\\bin\\true", L"true"), 0u);
 }
 
+TEST(Faults, OfAnEmptyReadLeaveAllToTheNextOne) {
+  TestPipe pipe;
+  ASSERT_TRUE(pipe.Write("a"));
+  FailWindowsCall(WindowsCall::ReadFileEmpty, 0);
+  char byte = 0;
+  DWORD count = 1;
+  EXPECT_TRUE(ReadFile(pipe.Reading, &byte, 1, &count, nullptr));
+  EXPECT_EQ(count, 0u);
+  EXPECT_TRUE(ReadFile(pipe.Reading, &byte, 1, &count, nullptr));
+  EXPECT_EQ(count, 1u);
+}
+
 TEST(Faults, OfCloseHandleCloseAllTheSame) {
   TestPipe pipe;
   const HANDLE reading = pipe.Reading;
