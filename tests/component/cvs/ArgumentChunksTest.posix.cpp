@@ -15,3 +15,11 @@ TEST(AnArgumentChunkInUTF8, IsMeasuredInCharactersNotInBytes) {
   const std::string longer = stage.AddWithPathOf(31'997, "longer", "\xC3\xA9");
   EXPECT_THAT(stage.Collected(stage.Tree.At("longer")), ElementsAre("", Argument(longer)));
 }
+
+TEST(AnArgumentChunkInUTF8, ThatIsFilledIsMeasuredInCharactersToo) {
+  ArgumentChunks stage;
+  const std::string path = stage.AddWithPathOf(10, "part");
+  std::string chunk;
+  for (int i = 0; i < 31'980; ++i) chunk += "\xC3\xA9";
+  EXPECT_THAT(stage.Collected(stage.Tree.At("part"), chunk), ElementsAre(chunk + Argument(path)));
+}

@@ -1,15 +1,29 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "CATIProduct.h"
 #include "component/cvs/ArgumentChunks.h"
 #include "component/product/DeepAssembly.h"
 #include "component/product/ProductEvents.h"
+#include "framework/Facet.h"
+#include "support/Files.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Pair;
 
 namespace {
+
+// A product whose reference is not loaded, and that counts how often it is asked whether it is one.
+class AskedProduct final : public standin::OneInterface<CATIProduct> {
+public:
+  static inline int Asked = 0;
+  HRESULT TestReference() override {
+    ++Asked;
+    return E_FAIL;
+  }
+  CATIProduct_var GetReferenceProduct() override { return nullptr; }
+};
 
 class CollectedArguments : public testing::Test {
 protected:
@@ -103,4 +117,35 @@ TEST_F(CollectedArguments, OfADeepTreeCostNoStack) {
   std::string all;
   for (const std::string& chunk : stage_.Collected(tree_.At("p0"))) all += chunk;
   EXPECT_EQ(all, expected);
+}
+
+TEST_F(CollectedArguments, AreCollectedOnceTheWorkModeIsSet) {
+  const CATBaseUnknown_var product = CATBaseUnknown_var::Adopt(new AskedProduct);
+  int askedBefore = -1;
+  standin::SetWorkModeListener([&](const CATBaseUnknown_var&, int) { askedBefore = AskedProduct::Asked; });
+  AskedProduct::Asked = 0;
+  stage_.Collected(product);
+  standin::SetWorkModeListener({});
+  EXPECT_EQ(askedBefore, 0);
+  EXPECT_GT(AskedProduct::Asked, 0);
+}
+
+TEST_F(CollectedArguments, AreTakenOffBeforeTheProductIsRedrawn) {
+  tree_.Add("car", "proj/car").AddNotLinkable("axle").Place("car", "a", "axle");
+  WriteStatusAttributes(tree_.At("car/a"), attributes_);
+  std::vector<std::optional<StatusAttributes>> drawn;
+  standin::SetRedrawListener(
+      [&](const CATBaseUnknown_var& product) { drawn.push_back(ReadStatusAttributes(product)); });
+  stage_.Collected(tree_.At("car"));
+  standin::SetRedrawListener({});
+  EXPECT_THAT(drawn, ElementsAre(std::nullopt));
+}
+
+TEST_F(CollectedArguments, FollowTheFoldersAsTheyAreEachTime) {
+  tree_.Add("car", "proj/car");
+  EXPECT_THAT(stage_.Collected(tree_.At("car")), ElementsAre(" \"proj\\car\""));
+  std::filesystem::remove(stage_.Folder / "proj/CVS/Repository");
+  EXPECT_THAT(stage_.Collected(tree_.At("car")), ElementsAre(""));
+  WriteFile(stage_.Folder / "proj/CVS/Repository", "proj\n");
+  EXPECT_THAT(stage_.Collected(tree_.At("car")), ElementsAre(" \"proj\\car\""));
 }

@@ -68,3 +68,12 @@ TEST(RepositoryPath, IsEmptyWhenNothingFollowsTheRootFolder) {
   EXPECT_EQ(GetRepositoryPath("Repository revision:\t1.5\t/cvs/root", "/cvs/root"), "");
   EXPECT_EQ(GetRepositoryPath("Repository revision:\t1.5\t/cvs/root/", "/cvs/root"), "");
 }
+
+TEST(RepositoryPath, TheRootFolderIsTheWholeOfItNotItsEnd) {
+  EXPECT_EQ(GetRepositoryPath("Repository revision:\t1.5\t/other/root/x/cvs/root/a,v\r\n", "/cvs/root"), "a");
+}
+
+TEST(RepositoryPath, TheCharacterBehindTheRootFolderIsSkippedWhateverItIs) {
+  EXPECT_EQ(GetRepositoryPath("Repository revision:\t1.5\t/cvs/root2/a,v\r\n", "/cvs/root"), "\\a");
+  EXPECT_EQ(GetRepositoryPath("Repository revision:\t1.5\t/cvs/root//a,v\r\n", "/cvs/root"), "\\a");
+}

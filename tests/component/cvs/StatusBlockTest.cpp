@@ -136,3 +136,7 @@ TEST(CVSStatusTags, BlanksOfATagStay) {
 TEST(CVSStatusTags, OfTwoLabelsTheFirstCounts) {
   EXPECT_EQ(FirstTag("Existing Tags:\r\n\tone\r\nExisting Tags:\r\n\ttwo\r\n"), "one");
 }
+
+TEST(CVSStatusTags, ACarriageReturnAtTheStartOfATagStays) {
+  EXPECT_EQ(FirstTag("Existing Tags:\n\r\tone\r\n\ttwo\r\n"), "\rone");
+}

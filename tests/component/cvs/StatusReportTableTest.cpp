@@ -77,3 +77,15 @@ TEST(StatusReportTable, ANextBlockMayStartRightBehindTheSeparator) {
   const std::string b = StatusBlock("b", "1.2");
   EXPECT_THAT(Filed(StatusBlock("a", "1.1") + "=====" + b), testing::Contains(Pair("C:\\w\\b", b)));
 }
+
+TEST(StatusReportTable, ALabelWithinABlockStartsNoOther) {
+  const std::string block =
+      "File: a\r\nRepository revision:\t1.1\t/cvs/root/a,v\r\n"
+      "File: b\r\nRepository revision:\t1.2\t/cvs/root/b,v\r\n";
+  EXPECT_THAT(Filed(block + kSeparatorLine), ElementsAre(Pair("C:\\w\\a", block)));
+}
+
+TEST(StatusReportTable, FourEqualsSignsEndNoBlock) {
+  const std::string block = "File: a\r\n====\r\nRepository revision:\t1.1\t/cvs/root/a,v\r\n";
+  EXPECT_THAT(Filed(block + "=====\r\n"), ElementsAre(Pair("C:\\w\\a", block)));
+}

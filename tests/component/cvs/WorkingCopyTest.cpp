@@ -147,6 +147,15 @@ TEST_F(Discovery, DoesNotLookBelowAProductInACVSWorkingCopy) {
   EXPECT_FALSE(found.IsSVN);
 }
 
+TEST_F(Discovery, DoesNotLookBelowAProductWhoseWorkingCopyHasNoRootFile) {
+  WriteFile(folder_ / "proj/CVS/Repository", "proj\n");
+  WriteCVSFolder(folder_ / "w/other", "/other/root", "other");
+  assembly_.Add("car", "proj/car").Add("part", "w/other/a").Place("car", "p", "part");
+  const WorkingCopy found = Found("car");
+  EXPECT_EQ(Text(found.CVSRoot), "");
+  EXPECT_EQ(Text(found.SandboxRoot), folder_.Host() + "\\");
+}
+
 TEST_F(Discovery, GoesDownUntilItFindsACVSWorkingCopy) {
   WriteCVSFolder(folder_ / "proj", "/cvs/root", "proj");
   assembly_.Add("car", "plain/car").Add("axle", "plain/axle").Add("part", "proj/a");
@@ -179,6 +188,14 @@ TEST_F(Discovery, FindsTheSubversionFolderOfTheDocument) {
 
 TEST_F(Discovery, NeedsTheEntriesFileOfASubversionFolder) {
   std::filesystem::create_directories(folder_ / "w/.svn");
+  assembly_.Add("part", "w/a");
+  EXPECT_FALSE(Found("part").IsSVN);
+}
+
+TEST_F(Discovery, TakesNoOtherFileForTheEntriesFile) {
+  for (const char* const file : {"format", "all-wcprops", "dir-props", "entries.bak", "README.txt"}) {
+    WriteFile(folder_ / "w/.svn" / file, "10\n");
+  }
   assembly_.Add("part", "w/a");
   EXPECT_FALSE(Found("part").IsSVN);
 }

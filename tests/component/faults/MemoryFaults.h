@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 // Making the memory of this program run short. Linux only: there the whole process, the host's library
 // with it, uses one `new`.
 namespace faults {
@@ -10,5 +12,8 @@ void FailMemory(int successes);
 
 // Calls the failure off; whether it had come.
 bool MemoryHasFailed();
+
+// Calls the function when this thread next allocates exactly that many bytes, before it gets them.
+void OnAllocation(std::size_t bytes, void (*call)());
 
 }  // namespace faults

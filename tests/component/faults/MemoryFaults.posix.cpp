@@ -3,14 +3,18 @@
 #include <cstddef>
 #include <cstdlib>
 #include <new>
+#include <utility>
 
 namespace {
 
 constexpr int kNone = -1;
 
 thread_local int successesLeft = kNone;
+thread_local std::size_t awaitedBytes = 0;
+thread_local void (*awaitingCall)() = nullptr;
 
 void* Allocate(std::size_t size) noexcept {
+  if (awaitingCall && size == awaitedBytes) std::exchange(awaitingCall, nullptr)();
   const bool fails = successesLeft == 0;
   if (successesLeft != kNone) --successesLeft;
   return fails ? nullptr : std::malloc(size > 0 ? size : 1);
@@ -51,6 +55,11 @@ void operator delete[](void* memory, const std::nothrow_t&) noexcept {
 }
 
 namespace faults {
+
+void OnAllocation(std::size_t bytes, void (*call)()) {
+  awaitedBytes = bytes;
+  awaitingCall = call;
+}
 
 void FailMemory(int successes) {
   successesLeft = successes < 0 ? kNone : successes;

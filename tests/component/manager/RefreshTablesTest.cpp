@@ -69,6 +69,25 @@ TEST_F(TheTables, OfStatusBlocksIsEmptyWhenTheFilesAreCollected) {
   EXPECT_THAT(lines, ElementsAre(1u, 1u));
 }
 
+// A client stops at its question, and is not asked on; that of the next command line says all it has to.
+TEST_F(TheTables, HoldAllThatOneCommandLineReportsBehindTheQuestionOfAnother) {
+  const std::string first(20'000, 'a');
+  const std::string second(20'000, 'b');
+  Products.Add({.Name = "one", .Document = Folder.Host("proj") + "\\" + first});
+  Products.Add({.Name = "two", .Document = Folder.Host("proj") + "\\" + second});
+  Products.Place("car", "1", "one").Place("car", "2", "two");
+  const std::string block = StatusBlock("proj/two", "1.2");
+  const std::string filler(3 * 4096, 'x');
+  Client.When("status -v proj\\b").Out(filler + kSeparatorLine + block);
+  Client.When("status -v").Out("a has been modified; revert changes? ");
+  Client.When("-n edit proj\\b").Out(filler + "\r\nproj/two\tbert\r\n");
+  Client.When("-n edit").Out("revert changes\r\n");
+  ZRKECVSManager manager(Product("car"));
+  manager.RefreshStatus(Root("car"));
+  EXPECT_THAT(manager.StatusBlockTable, testing::Contains(Pair(Key("proj\\two"), block)));
+  EXPECT_THAT(manager.EditTable, testing::Contains(Pair(Key("proj\\two"), "proj/two\nbert")));
+}
+
 TEST_F(TheTables, AreFilledAnewByEachRefresh) {
   Client.When("status -v").Once().Out(StatusBlock("proj/car", "1.1"));
   Client.When("-n edit").Once().Out("proj/car\tanna\r\n");

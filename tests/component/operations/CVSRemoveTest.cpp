@@ -1,6 +1,7 @@
 #include "component/operations/OperationTest.h"
 #include "support/DebugMessages.h"
 #include "support/HandleCount.h"
+#include "support/Launches.h"
 
 namespace {
 
@@ -102,4 +103,12 @@ TEST_F(CVSRemove, LeavesNoHandleOpen) {
   const int handles = CountOpenHandles();
   for (int i = 0; i < 5; ++i) Remove(Folder.Host("a.txt"));
   EXPECT_EQ(CountOpenHandles(), handles);
+}
+
+TEST_F(CVSRemove, WithoutARootRunsWithAnEmptyOneTwice) {
+  Manager().CVSRoot = "";
+  const Launches launches;
+  EXPECT_EQ(Remove(Folder.Host("proj\\sub\\a.txt")), 0);
+  ASSERT_EQ(launches.All().size(), 1u);
+  EXPECT_EQ(launches.All()[0].CommandLine, L" -d   -d  remove -f \"a.txt\"");
 }

@@ -60,8 +60,9 @@ TEST_F(EditMessage, JoinsWhatBothRunsSay) {
   EXPECT_EQ(Dialogs()[0].Message, "M a\r\nb\r\n");
 }
 
-TEST_F(EditMessage, AMarkBehindTheFirstLetterIsNoNewerVersion) {
-  for (const char* const answer : {"u a\r\n", "\r\nU a\r\n", " U a\r\n", "? U a\r\n"}) {
+TEST_F(EditMessage, NoOtherFirstLetterIsThatOfANewerVersion) {
+  for (const char* const answer :
+       {"u a\r\n", "\r\nU a\r\n", " U a\r\n", "? U a\r\n", "P a\r\n", "C a\r\n", "A a\r\n", "R a\r\n"}) {
     Client.ClearRules();
     Client.ClearRuns();
     Client.When("update").Out(answer);

@@ -1,4 +1,6 @@
 #include "component/operations/OperationTest.h"
+#include "component/product/AlteredProduct.h"
+#include "component/product/RecordingCarrier.h"
 #include "support/CatalogLookUps.h"
 #include "windows/LaunchLog.h"
 
@@ -98,4 +100,23 @@ TEST_F(EditOrder, NoTextIsBuiltWithoutAMainWindow) {
   Manager().Edit();
   Manager().Edit();
   EXPECT_EQ(texts.Keys(), TextLines{});
+}
+
+TEST_F(EditOrder, AnInstanceIsAddedAfterTheClientsEdit) {
+  const ZRKIAttClass_var attributeClass = StatusClass();
+  ZRKIAttExtendable_var(Car())->RemoveInstance(attributeClass);
+  TextLines atLaunches;
+  standin::SetLaunchListener([&](const standin::Launch&) { atLaunches.push_back(StatusOf("car")); });
+  EXPECT_EQ(Manager().Edit(), 0);
+  EXPECT_EQ(atLaunches, (TextLines{"no instance", "no instance", "Edit"}));
+}
+
+TEST_F(EditOrder, TheStatusIsWrittenThenTheRevisionThenTheRelease) {
+  Client.When("status -v").Out(StatusReport("1.4", "R5"));
+  RecordingCarrier carrier;
+  const CATBaseUnknown_var product =
+      CATBaseUnknown_var::Adopt(new AlteredProduct(Car(), ZRKIAttExtendable::ClassId(), carrier.Object()));
+  ZRKECVSManager manager(*product);
+  EXPECT_EQ(manager.Edit(), 0);
+  EXPECT_EQ(carrier.Written(), (TextLines{"Status=Edit", "Revision=1.4", "Release=R5(revision: 1.4)"}));
 }

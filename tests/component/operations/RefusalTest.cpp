@@ -138,3 +138,11 @@ TEST_P(Refusal, DoesNotComeFromAWorkingCopyThatIsKnown) {
   EXPECT_EQ(Perform(Manager()), 0);
   EXPECT_STREQ(Manager().CVSRoot.ConvertToChar(), "/cvs/root") << "it was looked for again";
 }
+
+TEST_P(Refusal, DoesNotComeFromADocumentThatWasNeverStored) {
+  Products.Add({.Name = "new", .Document = ""});
+  MarkAsTaken("new");
+  const CapturedOutput output;
+  EXPECT_EQ(Perform(UseManagerInWorkingCopy("new")), 0);
+  EXPECT_FALSE(Client.Runs().empty());
+}

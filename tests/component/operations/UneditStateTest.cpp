@@ -1,5 +1,7 @@
 #include "attributes/AttributeDictionary.h"
 #include "component/operations/OperationTest.h"
+#include "component/product/AlteredProduct.h"
+#include "component/product/RecordingCarrier.h"
 
 // Only a product marked "Edit" is given back.
 
@@ -72,6 +74,18 @@ TEST_F(UneditState, AStatusWithoutAValueIsRefused) {
   const ZRKIAttClass_var attributeClass = StatusClass();
   ZRKIAttExtendable_var(Car())->AddInstance(attributeClass, nullptr);
   ExpectRefused();
+}
+
+TEST_F(UneditState, ATextThatIsNoValueIsRefused) {
+  RecordingCarrier carrier;
+  carrier.GiveTextWithoutValue("Edit");
+  const ZRKIAttClass_var attributeClass = StatusClass();
+  ZRKIAttExtendable_var(carrier.Object())->AddInstance(attributeClass, nullptr);
+  const CATBaseUnknown_var product =
+      CATBaseUnknown_var::Adopt(new AlteredProduct(Car(), ZRKIAttExtendable::ClassId(), carrier.Object()));
+  ZRKECVSManager manager(*product);
+  EXPECT_EQ(manager.Unedit(), E_FAIL);
+  EXPECT_EQ(Runs(), (TextLines{kStatus, kEditors}));
 }
 
 TEST_F(UneditState, WithoutAStatusParameterIsRefused) {

@@ -70,9 +70,16 @@ TEST_F(Unedit, OfAnInstanceLooksAtTheInstanceAndNotAtItsReference) {
 
 TEST_F(Unedit, LeavesTheProductsBelowAlone) {
   Products.Add("axle", "proj/sub/axle.CATPart").Place("car", "axle.1", "axle");
+  Client.ClearRules();
+  Client.When("status -v")
+      .Out(StatusReport() +
+           "=====\r\nFile: axle.CATPart\tStatus: Up-to-date\r\n"
+           "   Working revision:\t1.1\r\n"
+           "   Repository revision:\t1.1\t/cvs/root/proj/sub/axle.CATPart,v\r\n");
   EXPECT_EQ(Manager().Unedit(), 0);
   EXPECT_EQ(Runs().size(), 5u);
   EXPECT_EQ(ReadStatusAttributes(Products.At("car/axle.1")), std::nullopt);
+  EXPECT_EQ(Redraws, (TextLines{"car", "car"}));
 }
 
 TEST_F(Unedit, SendsTheFileAlsoWhenItsFolderIsNoWorkingCopy) {

@@ -21,6 +21,9 @@ public:
   // The instance then has under that name something that is not a parameter.
   void MakeNoParameter(const std::string& name) { noParameters_.insert(name); }
 
+  // What a parameter gives as its text, though it has no value.
+  void GiveTextWithoutValue(const std::string& text) { text_ = text; }
+
 private:
   // Has one interface; lives in its carrier and is never freed.
   template <class Interface>
@@ -45,7 +48,7 @@ private:
       Self.written_.push_back(Name + "=" + text.ConvertToChar());
     }
     bool HasValue() override { return false; }
-    CATUnicodeString AsText() override { return {}; }
+    CATUnicodeString AsText() override { return Self.text_.c_str(); }
   };
 
   class Instance : public Facet<ZRKIAttInstance> {
@@ -74,6 +77,7 @@ private:
 
   std::vector<std::string> written_;
   std::set<std::string> noParameters_;
+  std::string text_;
   int additions_ = 0;
   bool lastModelGiven_ = true;
   Parameter parameter_{*this};

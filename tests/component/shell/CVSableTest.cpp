@@ -43,6 +43,11 @@ TEST_F(CVSable, AProductWithoutADocumentIsNot) {
   EXPECT_EQ(Of("empty"), 0);
 }
 
+TEST_F(CVSable, AProductWhoseDocumentWasNeverStoredIs) {
+  assembly_.Add({.Name = "new", .Document = ""});
+  EXPECT_EQ(Of("new"), 1);
+}
+
 TEST_F(CVSable, AnInstanceOfAProductWithoutADocumentIsNot) {
   assembly_.Add("car", "car.CATProduct").AddWithoutDocument("empty").Place("car", "empty.1", "empty");
   EXPECT_EQ(Of("car/empty.1"), 0);

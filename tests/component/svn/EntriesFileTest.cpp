@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
 #include "EntriesText.h"
 #include "ZRKCVSStatus.h"
@@ -37,6 +38,14 @@ TEST(EntriesFile, TheLineNineBehindTheNameIsTheRevisionAsTextAndAsNumber) {
   const ZRKCVSStatus record = ReadWithLinesBehindName(33);
   EXPECT_EQ(record.WorkingRevision, "1234");
   EXPECT_EQ(record.RevisionNumber, 1234);
+}
+
+TEST(EntriesFile, TheNumberOfARevisionIsDecimalWhateverItStartsWith) {
+  for (const auto& [text, number] : {std::pair{"0010", 10}, {"0x1F", 0}, {"12 r", 12}}) {
+    const ZRKCVSStatus record = Read("10\n" + Text(NameAndLines(kName, 33, {{9, text}})));
+    EXPECT_EQ(record.RevisionNumber, number) << text;
+    EXPECT_EQ(record.WorkingRevision, text);
+  }
 }
 
 TEST(EntriesFile, TheLine26BehindTheNameTellsTheLockAndTheNextItsOwner) {

@@ -163,4 +163,12 @@ TEST_F(SVNSingleRefresh, AProductThatCannotCarryAttributesIsRedrawn) {
   EXPECT_EQ(Redrawn.Paths(), Paths{"bare"});
 }
 
+TEST_F(SVNSingleRefresh, WithoutTheClassTheClientIsAskedAndTheProductRedrawn) {
+  List();
+  AttributeClass = nullptr;
+  EXPECT_EQ(Refresh("car"), 0);
+  EXPECT_EQ(Client.Runs().size(), 1u);
+  EXPECT_EQ(Redrawn.Paths(), Paths{"car"});
+}
+
 }  // namespace

@@ -56,6 +56,12 @@ TEST_F(SVNTreeAttributes, AnOwnerOfTheXMLReportIsNamedAlsoWhenNoLockShows) {
   EXPECT_EQ(Refreshed(), (StatusAttributes{"9", "ReadOnly", "", "Locked by: \nbert\n-------------\n"}));
 }
 
+TEST_F(SVNTreeAttributes, AnOwnerMayBeOneLetter) {
+  List();
+  Report(ForeignLockReport(Path), XMLReport("b"));
+  EXPECT_EQ(Refreshed()->Comment, "Locked by: \nb\n-------------\n");
+}
+
 TEST_F(SVNTreeAttributes, AFileLockedElsewhereByNobodyKnownHasNoComment) {
   List();
   Report(ForeignLockReport(Path), "<status/>");

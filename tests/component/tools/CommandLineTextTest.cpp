@@ -58,3 +58,12 @@ TEST(ToolCommandLine, TextBeyondASCIIIsPassedAsItIs) {
   ASSERT_EQ(launches.All().size(), 1u);
   EXPECT_EQ(launches.All()[0].CommandLine, L" -d /cvs/root status \"T\u00FCr.CATPart\"");
 }
+
+TEST(ToolCommandLine, KeepsThePlaceOfAnEmptyRoot) {
+  ToolRunner tool;
+  tool.CVSRoot = "";
+  const Launches launches;
+  tool.Run(" status -v");
+  ASSERT_EQ(launches.All().size(), 1u);
+  EXPECT_EQ(launches.All()[0].CommandLine, L" -d   status -v");
+}
