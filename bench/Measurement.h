@@ -36,7 +36,15 @@ SideBySide Compare(int rounds, const std::function<void()>& first, const std::fu
 Measurement Growth(const std::string& name, int rounds, double factor, const std::function<void()>& small,
                    const std::function<void()>& large, double goal);
 
-// The benchmarks.
+// A benchmark under the name that the user calls it by.
+struct Benchmark {
+  const char* Name;
+  Measurements (*Run)();
+};
+
+// Those of this platform, in the order of the table.
+const std::vector<Benchmark>& Benchmarks();
+
 Measurements MeasureClientOutput();
 Measurements MeasureStatusReport();
 Measurements MeasureEntriesFile();

@@ -5,7 +5,6 @@
 #include <cstdio>
 #include <exception>
 #include <fstream>
-#include <iterator>
 #include <nlohmann/json.hpp>
 #include <set>
 #include <stdexcept>
@@ -15,24 +14,14 @@
 
 namespace {
 
-struct Benchmark {
-  const char* Name;
-  Measurements (*Run)();
-};
-
-constexpr Benchmark kBenchmarks[] = {
-    {"output", MeasureClientOutput}, {"status", MeasureStatusReport},     {"entries", MeasureEntriesFile},
-    {"xml", MeasureXMLReport},       {"refresh", MeasureScriptedRefresh}, {"cvs", MeasureCVSRefresh},
-};
-
 bool IsBenchmark(const std::string& name) {
-  return std::any_of(std::begin(kBenchmarks), std::end(kBenchmarks),
+  return std::any_of(Benchmarks().begin(), Benchmarks().end(),
                      [&](const Benchmark& benchmark) { return name == benchmark.Name; });
 }
 
 int RefuseName(const std::string& name) {
   std::fprintf(stderr, "zrk_bench: no benchmark is called \"%s\"; there are:", name.c_str());
-  for (const Benchmark& benchmark : kBenchmarks) std::fprintf(stderr, " %s", benchmark.Name);
+  for (const Benchmark& benchmark : Benchmarks()) std::fprintf(stderr, " %s", benchmark.Name);
   std::fputc('\n', stderr);
   return 2;
 }
@@ -55,7 +44,7 @@ nlohmann::ordered_json ToJson(const Measurement& measurement) {
 void Run(const std::set<std::string>& names, const std::string& jsonFile) {
   nlohmann::ordered_json all = nlohmann::ordered_json::array();
   std::printf("| Measured | Value | Goal, at most | From |\n|---|---|---|---|\n");
-  for (const Benchmark& benchmark : kBenchmarks) {
+  for (const Benchmark& benchmark : Benchmarks()) {
     if (!names.empty() && !names.contains(benchmark.Name)) continue;
     for (const Measurement& measurement : benchmark.Run()) {
       Print(measurement);

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <string>
-#include <string_view>
 
 // The host's text.
 //
@@ -44,7 +43,6 @@ public:
   }
 
 private:
-  void Append(std::string_view text);
   void ForgetCount();
 
   std::string bytes_;

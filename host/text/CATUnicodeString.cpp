@@ -30,12 +30,12 @@ CATUnicodeString& CATUnicodeString::operator=(const char* text) {
 }
 
 CATUnicodeString& CATUnicodeString::operator+=(const CATUnicodeString& other) {
-  Append(other.bytes_);
+  bytes_ += other.bytes_;
   return *this;
 }
 
 CATUnicodeString& CATUnicodeString::operator+=(const char* text) {
-  if (text) Append(text);
+  if (text) bytes_ += text;
   return *this;
 }
 
@@ -71,23 +71,6 @@ void CATUnicodeString::ReplaceSubString(const CATUnicodeString& searched,
   if (position == std::string::npos) return;
   bytes_.replace(position, searched.bytes_.size(), replacement.bytes_);
   ForgetCount();
-}
-
-void CATUnicodeString::Append(std::string_view text) {
-  // A client's report comes in small pieces and may be very long. Each growth copies all of it into memory
-  // that the system first has to clear, while room that is not written to is none: a long text grows in
-  // larger steps than the library's.
-  constexpr std::size_t kLong = std::size_t{1} << 20;
-  constexpr std::size_t kLargestStep = std::size_t{1} << 30;
-  const std::size_t size = bytes_.size() + text.size();
-  if (size <= kLong || size <= bytes_.capacity()) {
-    bytes_.append(text);
-    return;
-  }
-  std::string larger;
-  larger.reserve(size + std::min(15 * size, kLargestStep));
-  larger.append(bytes_).append(text);
-  bytes_.swap(larger);
 }
 
 void CATUnicodeString::ForgetCount() {

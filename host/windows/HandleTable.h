@@ -11,7 +11,6 @@
 #include <utility>
 
 #include "windows/FileDescriptor.h"
-#include "windows/PipeReader.h"
 
 namespace standin {
 
@@ -20,8 +19,6 @@ namespace standin {
 struct KernelObject {
   FileDescriptor Descriptor;
   std::atomic<bool> Inheritable = false;
-  // Of the read end of a pipe.
-  PipeReader Reader;
 };
 
 // The handles of this process. A value is never given out twice, so that whatever is done with a closed

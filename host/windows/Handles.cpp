@@ -69,7 +69,10 @@ BOOL ReadFile(HANDLE handle, LPVOID buffer, DWORD size, LPDWORD read, LPOVERLAPP
   if (!object || overlapped) return FALSE;
   if (size == 0) return CanBeRead(object->Descriptor.Get());
 
-  const long count = object->Reader.Read(object->Descriptor.Get(), buffer, size, object->Inheritable);
+  ssize_t count;
+  do {
+    count = ::read(object->Descriptor.Get(), buffer, size);
+  } while (count < 0 && errno == EINTR);
   if (count <= 0) return FALSE;
   Store(read, static_cast<std::size_t>(count));
   return TRUE;
