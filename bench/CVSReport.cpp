@@ -1,6 +1,6 @@
 // Filing and parsing a `cvs status -v` report.
 
-#include "cvs/StatusReport.h"
+#include "cvs/StatusBlock.h"
 
 #include <cstring>
 #include <stdexcept>
@@ -29,7 +29,7 @@ std::string MakeReport(int files) {
 
 void FileAndParse(const std::string& report, int files) {
   zrk::cvs::ReportTable table;
-  zrk::cvs::FileStatusReport(report, "C:\\w\\", ":ext:server:/cvs/root", table);
+  zrk::cvs::AddStatusReport(report, "C:\\w\\", ":ext:server:/cvs/root", table);
   int parsed = 0;
   for (const auto& [path, block] : table) {
     ZRKCVSStatus record;

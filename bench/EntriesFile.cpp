@@ -1,6 +1,6 @@
 // Looking up a file in a working copy's entries file.
 
-#include "svn/EntriesOnDisk.h"
+#include "svn/EntriesFile.h"
 
 #include <cstdio>
 #include <memory>

@@ -4,10 +4,11 @@
 #include <optional>
 #include <string_view>
 
-#include "cvs/StatusReport.h"
-#include "files/TextFile.h"
+#include "cvs/StatusBlock.h"
+#include "files/FileMode.h"
 #include "product/ProductDocument.h"
 #include "product/ProductTree.h"
+#include "product/Redraw.h"
 #include "product/StatusInstance.h"
 
 namespace zrk::attributes {

@@ -6,6 +6,7 @@
 #include "cvs/WorkingCopy.h"
 #include "product/ProductDocument.h"
 #include "product/ProductTree.h"
+#include "product/Redraw.h"
 #include "product/StatusInstance.h"
 
 namespace zrk::cvs {

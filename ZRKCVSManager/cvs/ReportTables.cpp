@@ -2,7 +2,7 @@
 
 #include <iterator>
 
-#include "cvs/StatusReport.h"
+#include "cvs/StatusBlock.h"
 #include "text/Text.h"
 
 namespace zrk::cvs {
@@ -16,7 +16,7 @@ namespace {
 // the length of the report, this bounds what such lines may take in all.
 constexpr std::size_t kWrappedLinesLimit = std::size_t{16} << 20;
 
-void FileEditLine(std::string_view line, const CATUnicodeString& sandboxRoot, ReportTable& table) {
+void AddEditLine(std::string_view line, const CATUnicodeString& sandboxRoot, ReportTable& table) {
   const std::string_view name = line.substr(0, line.find('\t'));
   std::string key = sandboxRoot.ConvertToChar();
   key += name;
@@ -25,8 +25,8 @@ void FileEditLine(std::string_view line, const CATUnicodeString& sandboxRoot, Re
 
 }  // namespace
 
-void FileStatusReport(std::string_view report, const CATUnicodeString& sandboxRoot,
-                      const CATUnicodeString& cvsRoot, ReportTable& table) {
+void AddStatusReport(std::string_view report, const CATUnicodeString& sandboxRoot,
+                     const CATUnicodeString& cvsRoot, ReportTable& table) {
   constexpr std::string_view kBlockStart = "File:";
   constexpr std::string_view kSeparator = "=====";
   // Clients report folder by folder in the order of names: the next file's place is mostly behind this one's.
@@ -42,7 +42,7 @@ void FileStatusReport(std::string_view report, const CATUnicodeString& sandboxRo
   }
 }
 
-void FileEditReport(std::string_view report, const CATUnicodeString& sandboxRoot, ReportTable& table) {
+void AddEditReport(std::string_view report, const CATUnicodeString& sandboxRoot, ReportTable& table) {
   std::size_t wrapped = 0;
   std::size_t start = 0;
   for (std::size_t end = report.find('\n'); end != std::string_view::npos; end = report.find('\n', start)) {
@@ -53,7 +53,7 @@ void FileEditReport(std::string_view report, const CATUnicodeString& sandboxRoot
       wrapped += line.size();
       if (wrapped > report.size() + kWrappedLinesLimit) continue;
     }
-    FileEditLine(line, sandboxRoot, table);
+    AddEditLine(line, sandboxRoot, table);
   }
 }
 

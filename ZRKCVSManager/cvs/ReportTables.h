@@ -16,8 +16,8 @@ using ReportTable = std::map<std::string, std::string, std::less<>>;
 
 // Adds the blocks of a `cvs status -v` report: each from "File:" up to the next "=====". The key is
 // `sandboxRoot` followed by the path that the block's "Repository revision:" line names.
-void FileStatusReport(std::string_view report, const CATUnicodeString& sandboxRoot,
-                      const CATUnicodeString& cvsRoot, ReportTable& table);
+void AddStatusReport(std::string_view report, const CATUnicodeString& sandboxRoot,
+                     const CATUnicodeString& cvsRoot, ReportTable& table);
 
 // Adds the lines of a `cvs -n edit` report, which name a file and who edits it:
 //
@@ -29,6 +29,6 @@ void FileStatusReport(std::string_view report, const CATUnicodeString& sandboxRo
 //
 // The length of an empty line, less its last character, wraps: the line is all the rest of the report. Once
 // such lines took the length of the report and 16 MiB more in all, further ones are left out.
-void FileEditReport(std::string_view report, const CATUnicodeString& sandboxRoot, ReportTable& table);
+void AddEditReport(std::string_view report, const CATUnicodeString& sandboxRoot, ReportTable& table);
 
 }  // namespace zrk::cvs

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "CATIDescendants.h"
-#include "files/TextFile.h"
+#include "files/ClientFile.h"
 #include "product/ProductDocument.h"
 #include "svn/WorkingCopyForm.h"
 #include "text/Path.h"

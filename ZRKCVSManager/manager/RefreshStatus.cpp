@@ -28,7 +28,7 @@ void ZRKECVSManager::RefreshSVNRoute() {
 }
 
 void ZRKECVSManager::RefreshCVSRoute(const CATISpecObject_var& root) {
-  if (!IsReadyForCVS(CATIProduct_var(root))) return;
+  if (!MakeReadyForCVS(CATIProduct_var(root))) return;
   if (!root || !AttributeClass) return;
 
   StatusBlockTable.clear();
@@ -74,13 +74,13 @@ ZRKECVSManager::PassTimes ZRKECVSManager::RunStatusPasses(const CATListValCATUni
   const CATUnicodeString statusReport = RunOverFiles(" status -v ", fileArguments);
   times.Status = statusClock.Elapsed();
   CommTime += times.Status;
-  cvs::FileStatusReport(text::View(statusReport), SandboxRoot, CVSRoot, StatusBlockTable);
+  cvs::AddStatusReport(text::View(statusReport), SandboxRoot, CVSRoot, StatusBlockTable);
 
   const tools::RunClock editClock;
   const CATUnicodeString editReport = RunOverFiles(" -n edit ", fileArguments);
   times.Edit = editClock.Elapsed();
   CommTime = times.Edit;
   EditTable.clear();
-  cvs::FileEditReport(text::View(editReport), SandboxRoot, EditTable);
+  cvs::AddEditReport(text::View(editReport), SandboxRoot, EditTable);
   return times;
 }

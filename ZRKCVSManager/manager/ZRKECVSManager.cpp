@@ -5,7 +5,7 @@
 
 #include "ZRKAttPackageBaseServices.h"
 #include "cvs/FileArguments.h"
-#include "cvs/StatusReport.h"
+#include "cvs/StatusBlock.h"
 #include "cvs/WorkingCopy.h"
 #include "product/ProductDocument.h"
 #include "svn/DatabaseStatus.h"
@@ -101,7 +101,7 @@ bool ZRKECVSManager::KnowsCVSWorkingCopy() const {
   return SandboxRoot.GetLengthInByte() > 0 && CVSRoot.GetLengthInByte() > 0;
 }
 
-bool ZRKECVSManager::IsReadyForCVS(const CATIProduct_var& product) {
+bool ZRKECVSManager::MakeReadyForCVS(const CATIProduct_var& product) {
   if (!CheckCVSToolPath()) return false;
   if (product && !KnowsCVSWorkingCopy()) DiscoverWorkingCopy(product);
   return KnowsCVSWorkingCopy();

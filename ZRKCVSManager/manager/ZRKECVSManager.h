@@ -52,7 +52,7 @@ public:
 
   // The CVS operations start with this: cvs.exe is known (else the user is told) and so is the working copy,
   // looked for in the tree of the product when it is not.
-  bool IsReadyForCVS(const CATIProduct_var& product);
+  bool MakeReadyForCVS(const CATIProduct_var& product);
   // Brings the caches and the attributes of the manager's own product up to date for its one document.
   void RefreshOneFile(const CATUnicodeString& documentPath);
 
@@ -104,8 +104,8 @@ private:
   zrk::svn::SVNContext SVN();
   // Runs a CVS command once for each element of file arguments and joins the outputs.
   CATUnicodeString RunOverFiles(const char* command, const CATListValCATUnicodeString& fileArguments);
-  // Asks cvs.exe for the status of the files and then for who edits them, and files both reports: the first
-  // into an empty StatusBlockTable, which the caller has emptied.
+  // Asks cvs.exe for the status of the files and then for who edits them, and adds both reports to the
+  // tables: the first into an empty StatusBlockTable, which the caller has emptied.
   PassTimes RunStatusPasses(const CATListValCATUnicodeString& fileArguments);
   void RefreshSVNRoute();
   void RefreshCVSRoute(const CATISpecObject_var& root);

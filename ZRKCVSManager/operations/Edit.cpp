@@ -8,6 +8,7 @@
 #include "cvs/FileArguments.h"
 #include "manager/ZRKECVSManager.h"
 #include "product/ProductDocument.h"
+#include "product/Redraw.h"
 #include "product/StatusInstance.h"
 #include "svn/LockCommands.h"
 #include "text/Text.h"
@@ -48,7 +49,7 @@ HRESULT ZRKECVSManager::Edit() {
   const tools::RunScope run(Tools());
   const CATBaseUnknown_var own(this);
   if (IsSVN) return svn::SVNLock(SVN(), own);
-  if (!IsReadyForCVS(CATIProduct_var(own))) return E_FAIL;
+  if (!MakeReadyForCVS(CATIProduct_var(own))) return E_FAIL;
   const product::ProductDocument document = product::ReachDocument(own);
   if (!document.Exists()) return E_FAIL;
   const CATUnicodeString path = cvs::FileArgument(document.Path, SandboxRoot);

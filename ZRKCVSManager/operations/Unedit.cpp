@@ -38,7 +38,7 @@ HRESULT ZRKECVSManager::Unedit() {
   const tools::RunScope run(Tools());
   const CATBaseUnknown_var own(this);
   if (IsSVN) return svn::SVNUnlock(SVN(), own);
-  if (!IsReadyForCVS(CATIProduct_var(own))) return E_FAIL;
+  if (!MakeReadyForCVS(CATIProduct_var(own))) return E_FAIL;
   const product::ProductDocument document = product::ReachDocument(own);
   if (!document.Exists()) return E_FAIL;
 

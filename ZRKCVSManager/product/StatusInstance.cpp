@@ -1,7 +1,5 @@
 #include "product/StatusInstance.h"
 
-#include "CATIRedrawEvent.h"
-
 namespace zrk::product {
 
 ZRKIAttInstance_var FindInstance(const CATBaseUnknown_var& object, const ZRKIAttClass_var& attributeClass) {
@@ -48,10 +46,6 @@ ProductDocument ReachDocumentOrClear(const CATBaseUnknown_var& object,
   ProductDocument document = ReachDocument(object);
   if (document.State == DocumentState::NotLinkable) RemoveInstance(object, attributeClass);
   return document;
-}
-
-void Redraw(const CATBaseUnknown_var& object) {
-  if (const CATIRedrawEvent_var event{object}) event->Redraw();
 }
 
 }  // namespace zrk::product

@@ -37,6 +37,4 @@ void WriteStatusValues(const CATBaseUnknown_var& object, const ZRKIAttClass_var&
 ProductDocument ReachDocumentOrClear(const CATBaseUnknown_var& object,
                                      const ZRKIAttClass_var& attributeClass);
 
-void Redraw(const CATBaseUnknown_var& object);
-
 }  // namespace zrk::product

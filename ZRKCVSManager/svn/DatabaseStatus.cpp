@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "files/TextFile.h"
+#include "files/FileMode.h"
 #include "product/ProductTree.h"
 #include "product/StatusInstance.h"
 #include "svn/DatabaseClient.h"

@@ -1,5 +1,6 @@
 #include "svn/ProductStatus.h"
 
+#include "product/Redraw.h"
 #include "product/StatusInstance.h"
 
 namespace zrk::svn {

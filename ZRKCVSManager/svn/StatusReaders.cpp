@@ -5,7 +5,7 @@
 #include "product/ProductDocument.h"
 #include "product/ProductTree.h"
 #include "product/StatusInstance.h"
-#include "svn/EntriesOnDisk.h"
+#include "svn/EntriesFile.h"
 #include "svn/ProductStatus.h"
 #include "svn/StatusReport.h"
 #include "tools/RunClock.h"

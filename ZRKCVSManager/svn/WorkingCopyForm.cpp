@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "files/TextFile.h"
+#include "files/ClientFile.h"
 #include "text/Path.h"
 #include "text/Text.h"
 

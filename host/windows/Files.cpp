@@ -13,7 +13,7 @@
 
 #include "core/HostPath.h"
 #include "windows/FileDescriptor.h"
-#include "windows/TextFile.h"
+#include "windows/TextModeFile.h"
 #include "windows/WindowsControl.h"
 
 using standin::FileDescriptor;

@@ -14,7 +14,7 @@ constexpr std::size_t kWrappedLinesLimit = std::size_t{16} << 20;
 
 ReportTable Read(std::string_view report) {
   ReportTable table;
-  FileEditReport(report, kSandboxRoot, table);
+  AddEditReport(report, kSandboxRoot, table);
   return table;
 }
 

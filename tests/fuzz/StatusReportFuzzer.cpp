@@ -1,7 +1,7 @@
 // The report of `cvs status -v`: its splitting, and the reading of its blocks.
 
 #include "cvs/ReportTables.h"
-#include "cvs/StatusReport.h"
+#include "cvs/StatusBlock.h"
 #include "fuzz/Fuzzing.h"
 
 namespace {
@@ -29,7 +29,7 @@ std::vector<std::string_view> Blocks(std::string_view report) {
 
 ReportTable Split(std::string_view report) {
   ReportTable table;
-  FileStatusReport(report, kSandboxRoot, kCVSRoot, table);
+  AddStatusReport(report, kSandboxRoot, kCVSRoot, table);
   return table;
 }
 

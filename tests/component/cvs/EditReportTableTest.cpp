@@ -13,7 +13,7 @@ namespace {
 
 ReportTable Filed(const std::string& report, const char* sandboxRoot = "C:\\w\\") {
   ReportTable table;
-  zrk::cvs::FileEditReport(report, sandboxRoot, table);
+  zrk::cvs::AddEditReport(report, sandboxRoot, table);
   return table;
 }
 
@@ -39,7 +39,7 @@ TEST(EditReportTable, TheFirstLineOfAFileHolds) {
 
 TEST(EditReportTable, WhatIsFiledAlreadyStays) {
   ReportTable table{{"C:\\w\\a", "old"}};
-  zrk::cvs::FileEditReport("a\tanna\r\n", "C:\\w\\", table);
+  zrk::cvs::AddEditReport("a\tanna\r\n", "C:\\w\\", table);
   EXPECT_THAT(table, ElementsAre(Pair("C:\\w\\a", "old")));
 }
 

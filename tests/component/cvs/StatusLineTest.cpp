@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "cvs/StatusReport.h"
+#include "cvs/StatusBlock.h"
 
 using zrk::cvs::ParseCVSStatusLine;
 

@@ -17,7 +17,7 @@ constexpr const char* kSandboxRoot = "C:\\w\\";
 
 ReportTable Filed(const std::string& report, const char* sandboxRoot = kSandboxRoot) {
   ReportTable table;
-  zrk::cvs::FileStatusReport(report, sandboxRoot, zrk::sample::kCVSRoot, table);
+  zrk::cvs::AddStatusReport(report, sandboxRoot, zrk::sample::kCVSRoot, table);
   return table;
 }
 
@@ -52,8 +52,7 @@ TEST(StatusReportTable, OfTwoBlocksForOneFileTheFirstHolds) {
 
 TEST(StatusReportTable, WhatIsFiledAlreadyStays) {
   ReportTable table{{"C:\\w\\proj\\a.CATPart", "old"}};
-  zrk::cvs::FileStatusReport(StatusBlock("proj/a.CATPart", "1.1"), kSandboxRoot, zrk::sample::kCVSRoot,
-                             table);
+  zrk::cvs::AddStatusReport(StatusBlock("proj/a.CATPart", "1.1"), kSandboxRoot, zrk::sample::kCVSRoot, table);
   EXPECT_THAT(table, ElementsAre(Pair("C:\\w\\proj\\a.CATPart", "old")));
 }
 

@@ -3,7 +3,7 @@
 #include <chrono>
 #include <thread>
 
-#include "component/svn/EntriesText.h"
+#include "component/svn/SampleEntries.h"
 #include "debug/DebugChannel.h"
 #include "support/CVSFolder.h"
 #include "support/Files.h"

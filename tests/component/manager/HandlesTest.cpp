@@ -7,7 +7,7 @@
 
 #include "ZRKICVSManager.h"
 #include "component/manager/CVSStage.h"
-#include "component/svn/EntriesText.h"
+#include "component/svn/SampleEntries.h"
 #include "support/CapturedOutput.h"
 #include "support/DialogRecorder.h"
 #include "support/Files.h"

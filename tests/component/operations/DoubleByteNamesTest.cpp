@@ -5,7 +5,7 @@
 #include "CATIProduct.h"
 #include "ZRKCVSStatus.h"
 #include "ZRKICVSManager.h"
-#include "component/svn/EntriesText.h"
+#include "component/svn/SampleEntries.h"
 #include "core/HostPath.h"
 #include "support/Assembly.h"
 #include "support/CVSFolder.h"

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "attributes/AttributeDictionary.h"
-#include "component/product/ProductEvents.h"
 #include "component/product/RecordingCarrier.h"
 #include "support/Assembly.h"
 #include "support/Session.h"
@@ -106,19 +105,4 @@ TEST_F(TheStatusInstance, SkipsWhatIsNotAParameter) {
   carrier.MakeNoParameter("Status");
   WriteStatusValues(carrier.Object(), StatusClass(), kValues);
   EXPECT_THAT(carrier.Written(), ElementsAre("Revision=1.5", "Release=release", "Comment=comment"));
-}
-
-TEST(ARedraw, ReachesTheProductItIsAskedOf) {
-  TemporaryFolder folder;
-  Assembly assembly(folder);
-  assembly.AddWithoutDocument("car").AddWithoutDocument("axle").Place("car", "a", "axle");
-  const RedrawnProducts redrawn;
-  Redraw(assembly.At("car/a"));
-  EXPECT_THAT(redrawn.Paths(), ElementsAre("car/a"));
-}
-
-TEST(ARedraw, OfNothingIsNone) {
-  const RedrawnProducts redrawn;
-  Redraw(nullptr);
-  EXPECT_TRUE(redrawn.Paths().empty());
 }

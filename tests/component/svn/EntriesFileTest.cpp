@@ -1,281 +1,151 @@
-#include "svn/EntriesFile.h"
+// Reading `.svn\entries` beside a document.
 
 #include <gtest/gtest.h>
 
 #include <string>
-#include <utility>
 
-#include "EntriesText.h"
+#include "SampleEntries.h"
 #include "ZRKCVSStatus.h"
+#include "support/BinaryFiles.h"
+#include "support/Files.h"
+#include "support/HandleCount.h"
+#include "support/TemporaryFolder.h"
+#include "svn/EntriesFile.h"
 
 namespace {
 
-using entries::kToken;
-using entries::NameAndLines;
-using entries::Text;
-using zrk::svn::ReadEntry;
+using namespace entries;
+using zrk::svn::ReadSVNEntry;
 
-constexpr const char* kName = "wheel left.CATPart";
+const Lock kOwnLock{kToken, "anna", "", ""};
 
-ZRKCVSStatus Read(const std::string& text, const std::string& name = kName) {
-  ZRKCVSStatus record;
-  ReadEntry(text, name, record);
-  return record;
+class SVNEntriesFile : public testing::Test {
+protected:
+  void Write(const std::string& bytes) const { WriteFile(Folder / "wc" / ".svn" / "entries", bytes); }
+  HRESULT Read(const std::string& path) { return ReadSVNEntry(path.c_str(), Record); }
+  HRESULT ReadFile(const std::string& name) { return Read(Folder.Host("wc") + "\\" + name); }
+
+  const TemporaryFolder Folder;
+  ZRKCVSStatus Record;
+};
+
+TEST_F(SVNEntriesFile, IsReadFromTheFolderOfTheFile) {
+  Write(Format(10) + entries::Folder("12") + File(10, "wheel left.CATPart", "9", "bert", kOwnLock));
+  EXPECT_EQ(ReadFile("wheel left.CATPart"), S_OK);
+  EXPECT_TRUE(Record.IsInEntries);
+  EXPECT_TRUE(Record.IsVersioned);
+  EXPECT_EQ(Record.WorkingRevision, "9");
+  EXPECT_EQ(Record.RevisionNumber, 9);
+  EXPECT_TRUE(Record.IsLockedHere);
+  EXPECT_EQ(Record.LockOwner, "anna");
 }
 
-// The name, and `count` lines behind it: revision, lock token and owner at their distances.
-ZRKCVSStatus ReadWithLinesBehindName(std::size_t count) {
-  return Read("10\n" + Text(NameAndLines(kName, count, {{9, "1234"}, {26, kToken}, {27, "anna"}})));
+TEST_F(SVNEntriesFile, IsReadAsTextWhateverTheProcessOpensFilesAs) {
+  Write("10\r\na.CATPart\r\n" + Text(Lines(8), "\r\n") + "9\r\n");
+  const BinaryFiles binary;
+  EXPECT_EQ(ReadFile("a.CATPart"), S_OK);
+  EXPECT_EQ(Record.WorkingRevision, "9");
 }
 
-TEST(EntriesFile, ListedFilesAreInEntriesAndVersioned) {
-  const ZRKCVSStatus record = ReadWithLinesBehindName(33);
-  EXPECT_TRUE(record.IsInEntries);
-  EXPECT_TRUE(record.IsVersioned);
+TEST_F(SVNEntriesFile, WithoutAnEntriesFileIsAFailureThatLeavesTheRecord) {
+  Record.WorkingRevision = "7";
+  EXPECT_EQ(ReadFile("a.CATPart"), E_FAIL);
+  EXPECT_FALSE(Record.IsInEntries);
+  EXPECT_EQ(Record.WorkingRevision, "7");
 }
 
-TEST(EntriesFile, TheLineNineBehindTheNameIsTheRevisionAsTextAndAsNumber) {
-  const ZRKCVSStatus record = ReadWithLinesBehindName(33);
-  EXPECT_EQ(record.WorkingRevision, "1234");
-  EXPECT_EQ(record.RevisionNumber, 1234);
+TEST_F(SVNEntriesFile, AFolderInPlaceOfTheEntriesFileIsAFailure) {
+  WriteFile(Folder / "wc" / ".svn" / "entries" / "x", "");
+  EXPECT_EQ(ReadFile("a.CATPart"), E_FAIL);
 }
 
-TEST(EntriesFile, TheNumberOfARevisionIsDecimalWhateverItStartsWith) {
-  for (const auto& [text, number] : {std::pair{"0010", 10}, {"0x1F", 0}, {"12 r", 12}}) {
-    const ZRKCVSStatus record = Read("10\n" + Text(NameAndLines(kName, 33, {{9, text}})));
-    EXPECT_EQ(record.RevisionNumber, number) << text;
-    EXPECT_EQ(record.WorkingRevision, text);
-  }
+TEST_F(SVNEntriesFile, AFileThatIsNotListedIsASuccessThatLeavesTheRecord) {
+  Write(Format(10) + entries::Folder("12"));
+  Record.WorkingRevision = "7";
+  EXPECT_EQ(ReadFile("a.CATPart"), S_OK);
+  EXPECT_FALSE(Record.IsInEntries);
+  EXPECT_EQ(Record.WorkingRevision, "7");
 }
 
-TEST(EntriesFile, TheLine26BehindTheNameTellsTheLockAndTheNextItsOwner) {
-  const ZRKCVSStatus record = ReadWithLinesBehindName(33);
-  EXPECT_TRUE(record.IsLockedHere);
-  EXPECT_EQ(record.LockOwner, "anna");
+TEST_F(SVNEntriesFile, AnEmptyEntriesFileListsNothing) {
+  Write("");
+  EXPECT_EQ(ReadFile("a.CATPart"), S_OK);
+  EXPECT_FALSE(Record.IsInEntries);
 }
 
-TEST(EntriesFile, ReadsNothingElse) {
-  const ZRKCVSStatus record = ReadWithLinesBehindName(33);
-  EXPECT_EQ(record.File, "");
-  EXPECT_EQ(record.Status, "");
-  EXPECT_EQ(record.RepositoryRevision, "");
-  EXPECT_EQ(record.ExpansionOption, "");
-  EXPECT_EQ(record.CommitIdentifier, "");
-  EXPECT_EQ(record.StickyTag, "");
-  EXPECT_EQ(record.StickyDate, "");
-  EXPECT_EQ(record.StickyOptions, "");
-  EXPECT_EQ(record.MergeFrom, "");
-  EXPECT_EQ(record.ExistingTags, "");
-  EXPECT_EQ(record.AuxText, "");
-  EXPECT_FALSE(record.IsLockedByOther);
-  EXPECT_FALSE(record.Flag2);
+TEST_F(SVNEntriesFile, TheDocumentItselfNeedNotBeThere) {
+  Write(Format(10) + File(10, "gone.CATPart", "9", "bert"));
+  EXPECT_EQ(ReadFile("gone.CATPart"), S_OK);
+  EXPECT_EQ(Record.WorkingRevision, "9");
 }
 
-TEST(EntriesFile, AFileThatIsNotListedLeavesTheRecordUntouched) {
-  ZRKCVSStatus record;
-  record.WorkingRevision = "7";
-  record.RevisionNumber = 7;
-  record.LockOwner = "bert";
-  record.IsLockedHere = 1;
-  ReadEntry("10\n" + Text(NameAndLines("axle.CATPart", 33, {{9, "1234"}})), kName, record);
-  EXPECT_FALSE(record.IsInEntries);
-  EXPECT_FALSE(record.IsVersioned);
-  EXPECT_EQ(record.WorkingRevision, "7");
-  EXPECT_EQ(record.RevisionNumber, 7);
-  EXPECT_EQ(record.LockOwner, "bert");
-  EXPECT_TRUE(record.IsLockedHere);
+TEST_F(SVNEntriesFile, IsReadAnewEachTime) {
+  Write(Format(10) + File(10, "a.CATPart", "9", "bert"));
+  ReadFile("a.CATPart");
+  Write(Format(10) + File(10, "a.CATPart", "10", "bert"));
+  ReadFile("a.CATPart");
+  EXPECT_EQ(Record.WorkingRevision, "10");
 }
 
-TEST(EntriesFile, AnEmptyTextListsNothing) {
-  EXPECT_FALSE(Read("").IsInEntries);
-  EXPECT_FALSE(Read("", "").IsInEntries);
+TEST_F(SVNEntriesFile, LinesMayEndInCarriageReturnAndLineFeed) {
+  Write(Text({"10"}, "\r\n") + Text(FileLines(10, "a.CATPart", "9", "bert", kOwnLock), "\r\n"));
+  ReadFile("a.CATPart");
+  EXPECT_TRUE(Record.IsInEntries);
+  EXPECT_EQ(Record.WorkingRevision, "9");
+  EXPECT_EQ(Record.LockOwner, "anna");
 }
 
-TEST(EntriesFile, ANameWithNothingBehindItIsListedAndNoMore) {
-  const ZRKCVSStatus record = ReadWithLinesBehindName(0);
-  EXPECT_TRUE(record.IsInEntries);
-  EXPECT_TRUE(record.IsVersioned);
-  EXPECT_EQ(record.WorkingRevision, "");
-  EXPECT_EQ(record.RevisionNumber, 0);
-  EXPECT_FALSE(record.IsLockedHere);
+TEST_F(SVNEntriesFile, ALastLineWithoutEndDoesNotCount) {
+  Write(Format(10) + Text(NameAndLines("a.CATPart", 8)) + "9");
+  ReadFile("a.CATPart");
+  EXPECT_TRUE(Record.IsInEntries);
+  EXPECT_EQ(Record.WorkingRevision, "");
 }
 
-TEST(EntriesFile, EightLinesBehindTheNameGiveNoRevision) {
-  const ZRKCVSStatus record = ReadWithLinesBehindName(8);
-  EXPECT_TRUE(record.IsInEntries);
-  EXPECT_EQ(record.WorkingRevision, "");
-  EXPECT_EQ(record.RevisionNumber, 0);
+TEST_F(SVNEntriesFile, AControlZEndsTheText) {
+  Write(Format(10) + "\x1A\n" + File(10, "a.CATPart", "9", "bert"));
+  EXPECT_EQ(ReadFile("a.CATPart"), S_OK);
+  EXPECT_FALSE(Record.IsInEntries);
 }
 
-TEST(EntriesFile, NineLinesBehindTheNameGiveTheRevision) {
-  const ZRKCVSStatus record = ReadWithLinesBehindName(9);
-  EXPECT_EQ(record.WorkingRevision, "1234");
-  EXPECT_EQ(record.RevisionNumber, 1234);
-  EXPECT_FALSE(record.IsLockedHere);
+TEST_F(SVNEntriesFile, NamesOfAnyBytesAreFound) {
+  const std::string name = "Tr\xC3\xA4gerplatte.CATPart";
+  Write(Format(10) + File(10, name, "9", "J\xC3\xBCrgen", {kToken, "J\xC3\xBCrgen", "", ""}));
+  ReadFile(name);
+  EXPECT_EQ(Record.WorkingRevision, "9");
+  EXPECT_EQ(Record.LockOwner, "J\xC3\xBCrgen");
 }
 
-TEST(EntriesFile, TenLinesBehindTheNameGiveTheRevisionAndNoLock) {
-  const ZRKCVSStatus record = ReadWithLinesBehindName(10);
-  EXPECT_EQ(record.WorkingRevision, "1234");
-  EXPECT_FALSE(record.IsLockedHere);
+TEST_F(SVNEntriesFile, ThePathOfAFolderLeadsToTheEntryWithTheEmptyName) {
+  Write(Format(10) + entries::Folder("12"));
+  EXPECT_EQ(ReadFile(""), S_OK);
+  EXPECT_EQ(Record.RevisionNumber, 12);
 }
 
-TEST(EntriesFile, TwentyFiveLinesBehindTheNameGiveNoLock) {
-  const ZRKCVSStatus record = ReadWithLinesBehindName(25);
-  EXPECT_EQ(record.WorkingRevision, "1234");
-  EXPECT_FALSE(record.IsLockedHere);
-  EXPECT_EQ(record.LockOwner, "");
+TEST_F(SVNEntriesFile, WithoutABackslashTheWholePathIsFolderAndName) {
+  const std::string path = (Folder / "wc").generic_string();
+  ASSERT_EQ(path.find('\\'), std::string::npos);
+  Write(Format(10) + Text(NameAndLines("wc", 9, {{9, "1"}})) + Text(NameAndLines(path, 9, {{9, "2"}})));
+  EXPECT_EQ(Read(path), S_OK);
+  EXPECT_EQ(Record.WorkingRevision, "2");
 }
 
-TEST(EntriesFile, TwentySixLinesBehindTheNameGiveALockWithoutOwner) {
-  ZRKCVSStatus record;
-  record.LockOwner = "bert";
-  ReadEntry("10\n" + Text(NameAndLines(kName, 26, {{9, "1234"}, {26, kToken}})), kName, record);
-  EXPECT_TRUE(record.IsLockedHere);
-  EXPECT_EQ(record.LockOwner, "");
+TEST_F(SVNEntriesFile, ASlashDoesNotSeparate) {
+  Write(Format(10) + Text(NameAndLines("a.CATPart", 9, {{9, "1"}})));
+  EXPECT_EQ(Read((Folder / "wc" / "a.CATPart").generic_string()), E_FAIL);
+
+  // Folder up to the only backslash, name with a slash behind it.
+  Write(Format(10) + Text(NameAndLines("sub/a.CATPart", 9, {{9, "2"}})));
+  EXPECT_EQ(Read((Folder / "wc").generic_string() + "\\sub/a.CATPart"), S_OK);
+  EXPECT_EQ(Record.WorkingRevision, "2");
 }
 
-TEST(EntriesFile, TwentySevenLinesBehindTheNameGiveTheOwner) {
-  const ZRKCVSStatus record = ReadWithLinesBehindName(27);
-  EXPECT_TRUE(record.IsLockedHere);
-  EXPECT_EQ(record.LockOwner, "anna");
-}
-
-TEST(EntriesFile, ALineWithoutTokenIsNoLockAndHasNoOwner) {
-  ZRKCVSStatus record;
-  record.LockOwner = "bert";
-  ReadEntry("10\n" + Text(NameAndLines(kName, 33, {{9, "1234"}, {26, "token"}, {27, "anna"}})), kName,
-            record);
-  EXPECT_FALSE(record.IsLockedHere);
-  EXPECT_EQ(record.LockOwner, "bert");
-}
-
-TEST(EntriesFile, ATokenBesideItsLineIsNoLock) {
-  for (const std::size_t distance : {25U, 27U}) {
-    EXPECT_FALSE(Read("10\n" + Text(NameAndLines(kName, 33, {{distance, kToken}}))).IsLockedHere) << distance;
-  }
-}
-
-TEST(EntriesFile, TheTokenMayStandAnywhereInItsLine) {
-  const std::string lines = Text(NameAndLines(kName, 33, {{26, "x opaquelocktoken"}, {27, "anna b. c."}}));
-  const ZRKCVSStatus record = Read("10\n" + lines);
-  EXPECT_TRUE(record.IsLockedHere);
-  EXPECT_EQ(record.LockOwner, "anna b. c.");
-}
-
-TEST(EntriesFile, TheTokenIsCaseSensitive) {
-  EXPECT_FALSE(Read("10\n" + Text(NameAndLines(kName, 33, {{26, "OpaqueLockToken:1"}}))).IsLockedHere);
-}
-
-TEST(EntriesFile, AnEmptyRevisionLineIsAnEmptyTextAndZero) {
-  ZRKCVSStatus record;
-  record.WorkingRevision = "7";
-  record.RevisionNumber = 7;
-  ReadEntry("10\n" + Text(NameAndLines(kName, 10, {{9, ""}})), kName, record);
-  EXPECT_EQ(record.WorkingRevision, "");
-  EXPECT_EQ(record.RevisionNumber, 0);
-}
-
-TEST(EntriesFile, TheRevisionNumberIsThatOfTheLeadingDigits) {
-  const auto revision = [](const std::string& line) {
-    return Read("10\n" + Text(NameAndLines(kName, 10, {{9, line}})));
-  };
-  EXPECT_EQ(revision("12M").RevisionNumber, 12);
-  EXPECT_EQ(revision("12M").WorkingRevision, "12M");
-  EXPECT_EQ(revision(" 12").RevisionNumber, 12);
-  EXPECT_EQ(revision("-3").RevisionNumber, -3);
-  EXPECT_EQ(revision("file").RevisionNumber, 0);
-}
-
-TEST(EntriesFile, TheNameMayStandOnTheVeryFirstLine) {
-  const ZRKCVSStatus record = Read(Text(NameAndLines(kName, 9, {{9, "1234"}})));
-  EXPECT_TRUE(record.IsInEntries);
-  EXPECT_EQ(record.WorkingRevision, "1234");
-}
-
-TEST(EntriesFile, TheNameMustBeTheWholeLine) {
-  for (const std::string line : {"my wheel left.CATPart", "wheel left.CATPart2", "wheel left.CATPart ",
-                                 " wheel left.CATPart", "wheel left.CATPar"}) {
-    EXPECT_FALSE(Read("10\n" + line + "\nfile\n").IsInEntries) << line;
-    EXPECT_FALSE(Read(line + "\nfile\n").IsInEntries) << line;
-  }
-}
-
-TEST(EntriesFile, ALineThatOnlyStartsWithTheNameDoesNotHideTheNameBehind) {
-  const ZRKCVSStatus record = Read("10\nwheel left.CATPart.bak\n" + Text(NameAndLines(kName, 9, {{9, "5"}})));
-  EXPECT_EQ(record.WorkingRevision, "5");
-}
-
-TEST(EntriesFile, TheNameIsCaseSensitive) {
-  EXPECT_FALSE(Read("10\nWheel Left.CATPart\nfile\n").IsInEntries);
-}
-
-TEST(EntriesFile, TheFirstLineThatIsTheNameCounts) {
-  const std::string twice =
-      Text(NameAndLines(kName, 9, {{9, "1"}})) + Text(NameAndLines(kName, 9, {{9, "2"}}));
-  EXPECT_EQ(Read("10\n" + twice).WorkingRevision, "1");
-}
-
-TEST(EntriesFile, ALastLineWithoutLineFeedDoesNotCount) {
-  const std::string cutName = std::string("10\n") + kName;
-  EXPECT_FALSE(Read(cutName).IsInEntries);
-  EXPECT_FALSE(Read(kName).IsInEntries);
-
-  std::string cutRevision = Text(NameAndLines(kName, 9, {{9, "1234"}}));
-  cutRevision.pop_back();
-  EXPECT_TRUE(Read(cutRevision).IsInEntries);
-  EXPECT_EQ(Read(cutRevision).WorkingRevision, "");
-
-  std::string cutToken = Text(NameAndLines(kName, 26, {{9, "1234"}, {26, kToken}}));
-  cutToken.pop_back();
-  EXPECT_EQ(Read(cutToken).WorkingRevision, "1234");
-  EXPECT_FALSE(Read(cutToken).IsLockedHere);
-
-  std::string cutOwner = Text(NameAndLines(kName, 27, {{26, kToken}, {27, "anna"}}));
-  cutOwner.pop_back();
-  EXPECT_TRUE(Read(cutOwner).IsLockedHere);
-  EXPECT_EQ(Read(cutOwner).LockOwner, "");
-}
-
-TEST(EntriesFile, AnEmptyNameIsFoundAtTheFirstEmptyLine) {
-  const ZRKCVSStatus record = Read("10\n" + Text(NameAndLines("", 9, {{9, "88"}})), "");
-  EXPECT_TRUE(record.IsInEntries);
-  EXPECT_EQ(record.RevisionNumber, 88);
-}
-
-TEST(EntriesFile, NamesOfAnyBytesAreComparedByteByByte) {
-  const std::string utf8 = "Trägerplatte größer.CATPart";
-  const std::string latin1 =
-      "Tr\xE4gerplatte gr\xF6\xDF"
-      "er.CATPart";
-  const std::string text = "10\n" + Text(NameAndLines(utf8, 9, {{9, "5"}}));
-  EXPECT_EQ(Read(text, utf8).WorkingRevision, "5");
-  EXPECT_FALSE(Read(text, latin1).IsInEntries);
-  EXPECT_TRUE(Read("10\n" + latin1 + "\n", latin1).IsInEntries);
-}
-
-TEST(EntriesFile, TheOwnerKeepsItsBytes) {
-  const std::string owner = "J\xC3\xBCrgen M\xC3\xBCller";
-  EXPECT_EQ(Read(Text(NameAndLines(kName, 27, {{26, kToken}, {27, owner}}))).LockOwner, owner.c_str());
-}
-
-TEST(EntriesFile, CarriageReturnsThatStayedBelongToTheirLine) {
-  EXPECT_FALSE(Read("10\nwheel left.CATPart\r\nfile\r\n").IsInEntries);
-  EXPECT_EQ(Read(Text(NameAndLines(kName, 9, {{9, "12\r"}}))).WorkingRevision, "12\r");
-}
-
-TEST(EntriesFile, ANameThatHoldsALineFeedIsNoLine) {
-  EXPECT_FALSE(Read("10\nwheel\nleft.CATPart\nfile\n", "wheel\nleft.CATPart").IsInEntries);
-}
-
-TEST(EntriesFile, ALargeFolderIsReadToItsEnd) {
-  std::string text = "10\n";
-  for (int number = 0; number < 20'000; ++number) {
-    text += entries::File(10, "part " + std::to_string(number) + ".CATPart", std::to_string(number), "anna");
-  }
-  EXPECT_EQ(Read(text, "part 0.CATPart").WorkingRevision, "0");
-  EXPECT_EQ(Read(text, "part 19999.CATPart").WorkingRevision, "19999");
-  EXPECT_FALSE(Read(text, "part 20000.CATPart").IsInEntries);
+TEST_F(SVNEntriesFile, OfBothReadingsNoFileStaysOpen) {
+  Write(Format(10) + File(10, "a.CATPart", "9", "bert"));
+  const int before = CountOpenHandles();
+  ReadFile("a.CATPart");
+  Read(Folder.Host("none\\a.CATPart"));
+  EXPECT_EQ(CountOpenHandles(), before);
 }
 
 }  // namespace

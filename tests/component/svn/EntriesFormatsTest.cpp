@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <string>
 
-#include "EntriesText.h"
+#include "SampleEntries.h"
 #include "ZRKCVSStatus.h"
-#include "svn/EntriesFile.h"
+#include "svn/EntriesText.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "EntriesText.h"
+#include "SampleEntries.h"
 #include "component/product/ProductEvents.h"
 #include "support/Assembly.h"
 #include "support/Files.h"

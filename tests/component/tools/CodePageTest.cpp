@@ -7,7 +7,8 @@
 
 #include "component/tools/ToolRunner.h"
 #include "core/HostPath.h"
-#include "files/TextFile.h"
+#include "files/ClientFile.h"
+#include "files/FileMode.h"
 #include "support/Files.h"
 #include "text/NativeText.h"
 

@@ -1,4 +1,4 @@
-#include "files/TextFile.h"
+#include "files/ClientFile.h"
 
 #include <gtest/gtest.h>
 
@@ -19,7 +19,7 @@ std::optional<std::string> ReadText(const std::string& path) {
   return std::string(text->View());
 }
 
-class ATextFile : public testing::Test {
+class AClientFile : public testing::Test {
 protected:
   std::optional<std::string> Read(std::string_view bytes) {
     WriteFile(folder_ / "file", bytes);
@@ -31,24 +31,24 @@ protected:
 
 }  // namespace
 
-TEST_F(ATextFile, IsReadWhole) {
+TEST_F(AClientFile, IsReadWhole) {
   EXPECT_EQ(Read("one\ntwo\n"), "one\ntwo\n");
   EXPECT_EQ(Read(""), "");
 }
 
-TEST_F(ATextFile, KeepsALastLineWithoutALineEnd) {
+TEST_F(AClientFile, KeepsALastLineWithoutALineEnd) {
   EXPECT_EQ(Read("one\ntwo"), "one\ntwo");
 }
 
-TEST_F(ATextFile, LosesTheCarriageReturnOfALineEndAndNoOther) {
+TEST_F(AClientFile, LosesTheCarriageReturnOfALineEndAndNoOther) {
   EXPECT_EQ(Read("one\r\ntwo\rthree\r\r\n\r"), "one\ntwo\rthree\r\n\r");
 }
 
-TEST_F(ATextFile, EndsAtItsEndMark) {
+TEST_F(AClientFile, EndsAtItsEndMark) {
   EXPECT_EQ(Read("one\x1Atwo"), "one");
 }
 
-TEST_F(ATextFile, KeepsEveryOtherByte) {
+TEST_F(AClientFile, KeepsEveryOtherByte) {
   std::string bytes;
   for (int byte = 0; byte < 256; ++byte) {
     if (byte != 0x1A) bytes += static_cast<char>(byte);
@@ -56,12 +56,12 @@ TEST_F(ATextFile, KeepsEveryOtherByte) {
   EXPECT_EQ(Read(bytes), bytes);
 }
 
-TEST_F(ATextFile, MayBeLarge) {
+TEST_F(AClientFile, MayBeLarge) {
   const std::string bytes(1'000'001, 'x');
   EXPECT_TRUE(Read(bytes) == bytes);
 }
 
-TEST_F(ATextFile, ThatGrowsWhileItIsReadIsReadOn) {
+TEST_F(AClientFile, ThatGrowsWhileItIsReadIsReadOn) {
   // Of a device the size is not known beforehand; on Windows there is none that could be read here.
   if (!std::filesystem::exists("/proc/self/environ")) GTEST_SKIP() << "needs a file that tells no size";
   std::ifstream stream("/proc/self/environ", std::ios::binary);
@@ -69,45 +69,33 @@ TEST_F(ATextFile, ThatGrowsWhileItIsReadIsReadOn) {
   EXPECT_EQ(ReadText("\\proc\\self\\environ"), expected);
 }
 
-TEST_F(ATextFile, ThatIsNotThereCannotBeRead) {
+TEST_F(AClientFile, ThatIsNotThereCannotBeRead) {
   EXPECT_EQ(ReadText(folder_.Host("missing")), std::nullopt);
   EXPECT_EQ(ReadText(folder_.Host("missing\\file")), std::nullopt);
   EXPECT_FALSE(CanOpen(folder_.Host("missing")));
 }
 
-TEST_F(ATextFile, CanBeOpenedWhenItIsThere) {
+TEST_F(AClientFile, CanBeOpenedWhenItIsThere) {
   WriteFile(folder_ / "sub" / "a b", "");
   EXPECT_TRUE(CanOpen(folder_.Host() + "\\sub\\a b"));
 }
 
-TEST_F(ATextFile, MayBeReadOnly) {
+TEST_F(AClientFile, MayBeReadOnly) {
   WriteFile(folder_ / "file", "text");
   SetReadOnly(folder_ / "file");
   EXPECT_EQ(ReadText(folder_.Host("file")), "text");
 }
 
-TEST_F(ATextFile, IsNotAFolder) {
+TEST_F(AClientFile, IsNotAFolder) {
   std::filesystem::create_directory(folder_ / "sub");
   EXPECT_FALSE(CanOpen(folder_.Host("sub")));
   EXPECT_EQ(ReadText(folder_.Host("sub")), std::nullopt);
 }
 
-TEST_F(ATextFile, IsClosedAfterwards) {
+TEST_F(AClientFile, IsClosedAfterwards) {
   WriteFile(folder_ / "file", "text");
   const int before = CountOpenHandles();
   CanOpen(folder_.Host("file"));
   ReadText(folder_.Host("file"));
   EXPECT_EQ(CountOpenHandles(), before);
-}
-
-TEST_F(ATextFile, IsWritableWhenItsOwnerMayWriteIt) {
-  WriteFile(folder_ / "file", "text");
-  EXPECT_TRUE(zrk::files::IsWritable(folder_.Host("file").c_str()));
-  SetReadOnly(folder_ / "file");
-  EXPECT_FALSE(zrk::files::IsWritable(folder_.Host("file").c_str()));
-}
-
-TEST_F(ATextFile, IsNotWritableWhenItIsNotThere) {
-  EXPECT_FALSE(zrk::files::IsWritable(folder_.Host("missing").c_str()));
-  EXPECT_FALSE(zrk::files::IsWritable(""));
 }

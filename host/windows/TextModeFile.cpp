@@ -1,4 +1,4 @@
-#include "windows/TextFile.h"
+#include "windows/TextModeFile.h"
 
 #include <unistd.h>
 
@@ -33,22 +33,22 @@ std::size_t JoinLineEnds(char* text, std::size_t size) {
 }
 
 ssize_t ReadStream(void* file, char* buffer, std::size_t size) {
-  return static_cast<TextFile*>(file)->Read(buffer, size);
+  return static_cast<TextModeFile*>(file)->Read(buffer, size);
 }
 
 int SeekStream(void* file, off64_t* offset, int origin) {
-  *offset = static_cast<TextFile*>(file)->Seek(*offset, origin);
+  *offset = static_cast<TextModeFile*>(file)->Seek(*offset, origin);
   return *offset < 0 ? -1 : 0;
 }
 
 int CloseStream(void* file) {
-  delete static_cast<TextFile*>(file);
+  delete static_cast<TextModeFile*>(file);
   return 0;
 }
 
 }  // namespace
 
-long TextFile::Read(char* buffer, std::size_t size) {
+long TextModeFile::Read(char* buffer, std::size_t size) {
   if (ended_ || size == 0) return 0;
   size = std::min(size, kLargestPiece);
   std::size_t count = 0;
@@ -81,7 +81,7 @@ long TextFile::Read(char* buffer, std::size_t size) {
   return static_cast<long>(count);
 }
 
-long TextFile::Seek(long offset, int origin) {
+long TextModeFile::Seek(long offset, int origin) {
   if (origin == SEEK_CUR && ahead_) --offset;
   const off_t place = lseek(file_.Get(), offset, origin);
   if (place < 0) return place;
@@ -90,7 +90,7 @@ long TextFile::Seek(long offset, int origin) {
   return place;
 }
 
-long TextFile::ReadRaw(char* buffer, std::size_t size) {
+long TextModeFile::ReadRaw(char* buffer, std::size_t size) {
   ssize_t result;
   do {
     result = read(file_.Get(), buffer, size);
@@ -99,11 +99,11 @@ long TextFile::ReadRaw(char* buffer, std::size_t size) {
 }
 
 std::FILE* OpenTextStream(FileDescriptor file) {
-  std::unique_ptr<TextFile> text(new (std::nothrow) TextFile(std::move(file)));
+  std::unique_ptr<TextModeFile> text(new (std::nothrow) TextModeFile(std::move(file)));
   if (!text) return nullptr;
   std::FILE* const stream = fopencookie(text.get(), "r", {ReadStream, nullptr, SeekStream, CloseStream});
   if (!stream) return nullptr;
-  setvbuf(stream, text->Buffer(), _IOFBF, TextFile::kBufferSize);
+  setvbuf(stream, text->Buffer(), _IOFBF, TextModeFile::kBufferSize);
   static_cast<void>(text.release());  // closing the stream deletes it
   return stream;
 }

@@ -1,4 +1,4 @@
-#include "cvs/StatusReport.h"
+#include "cvs/StatusBlock.h"
 #include "text/Text.h"
 
 namespace zrk::cvs {

@@ -1,7 +1,7 @@
 // The text form of `.svn\entries`. The first line of an input is the name that is looked for.
 
 #include "fuzz/Fuzzing.h"
-#include "svn/EntriesFile.h"
+#include "svn/EntriesText.h"
 
 namespace {
 

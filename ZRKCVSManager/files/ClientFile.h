@@ -30,10 +30,4 @@ struct Text {
 // The whole text, or what comes before a read error; nothing when the file cannot be opened.
 std::optional<Text> ReadText(const std::string& path, const char* mode = "rt");
 
-// Whether there is a folder of that path, which must not end in "\".
-bool IsFolder(const std::string& path);
-
-// Whether the file's mode lets its owner write; false when there is no such file.
-bool IsWritable(const char* path);
-
 }  // namespace zrk::files

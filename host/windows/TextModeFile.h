@@ -12,9 +12,9 @@ namespace standin {
 
 // Reads a file as the Windows C runtime reads text: CR LF is LF, a CR elsewhere stays, Ctrl-Z ends the
 // text. Every other byte is itself, whatever the locale.
-class TextFile {
+class TextModeFile {
 public:
-  explicit TextFile(FileDescriptor file) : file_(std::move(file)) {}
+  explicit TextModeFile(FileDescriptor file) : file_(std::move(file)) {}
 
   // The number of bytes put into the buffer: 0 at the end, negative on an error.
   long Read(char* buffer, std::size_t size);
@@ -36,7 +36,7 @@ private:
   bool ended_ = false;
 };
 
-// A stream of the C library over a TextFile; null when there is no memory.
+// A stream of the C library over a TextModeFile; null when there is no memory.
 std::FILE* OpenTextStream(FileDescriptor file);
 
 }  // namespace standin

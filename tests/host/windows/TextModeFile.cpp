@@ -7,7 +7,7 @@
 #include "OpenDescriptors.h"
 #include "TestFiles.h"
 #include "support/BinaryFiles.h"
-#include "windows/TextFile.h"
+#include "windows/TextModeFile.h"
 
 namespace {
 
@@ -33,7 +33,7 @@ std::string TextInPieces(const std::string& bytes, std::size_t size) {
     return "no pipe";
   }
   close(ends[1]);
-  standin::TextFile file{standin::FileDescriptor(ends[0])};
+  standin::TextModeFile file{standin::FileDescriptor(ends[0])};
   std::string text;
   std::string piece(size, '\0');
   for (long count = file.Read(piece.data(), size); count > 0; count = file.Read(piece.data(), size)) {

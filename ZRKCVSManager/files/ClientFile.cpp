@@ -1,4 +1,4 @@
-#include "files/TextFile.h"
+#include "files/ClientFile.h"
 
 #include <sys/stat.h>
 #include <windows.h>
@@ -10,8 +10,6 @@
 
 namespace zrk::files {
 namespace {
-
-constexpr int kOwnerWrite = 0x80;
 
 struct FileCloser {
   void operator()(std::FILE* file) const { fclose(file); }
@@ -54,18 +52,6 @@ std::optional<Text> ReadText(const std::string& path, const char* mode) {
     text.Characters = std::move(larger);
   }
   return text;
-}
-
-bool IsFolder(const std::string& path) {
-  struct _stat64i32 status {};
-  return _stat64i32(path.c_str(), &status) == 0 && (status.st_mode & _S_IFMT) == _S_IFDIR;
-}
-
-bool IsWritable(const char* path) {
-  struct _stat64i32 status {};
-  // A failed call leaves the mode 0: a document that is not on disk is not writable.
-  _stat64i32(path, &status);
-  return (status.st_mode & kOwnerWrite) != 0;
 }
 
 }  // namespace zrk::files
