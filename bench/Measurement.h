@@ -10,7 +10,7 @@ struct Measurement {
   std::string Name;
   double Value = 0.0;
   std::string Unit;
-  // The value should not be above; nothing where a figure is only told.
+  // The value should not be above; nothing where a figure has no goal.
   std::optional<double> Goal;
   // What was measured to get it.
   std::string Detail;

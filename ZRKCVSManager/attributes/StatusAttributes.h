@@ -24,7 +24,7 @@ struct StatusSource {
 //   "Release"   the first tag from the status report
 //   "Comment"   the lines of the edit report when "Locked", else empty
 //
-// and has it redrawn. A document that the status report does not know keeps its attributes and is told in
+// and has it redrawn. A document that the status report does not know keeps its attributes and is named in
 // a line on standard output; one whose status is "Unknown" loses them, as does a product that cannot have
 // a document. The result is that of ParseCVSStatusBlock, 0 when nothing was parsed.
 std::int32_t WriteStatusAttributes(const StatusSource& source, const CATBaseUnknown_var& product);

@@ -33,7 +33,7 @@ product::ProductDocument PrepareProduct(const FileArgumentContext& context,
   return document;
 }
 
-// What the client is to be told of a document; nothing when it is not the client's.
+// The document's path as the client takes it; nothing when the document is not the client's.
 std::optional<CATUnicodeString> ArgumentPath(const FileArgumentContext& context, CVSFolders& folders,
                                              const CATUnicodeString& documentPath) {
   if (documentPath.GetLengthInByte() == 0 || !folders.Hold(documentPath)) return std::nullopt;

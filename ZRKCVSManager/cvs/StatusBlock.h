@@ -32,7 +32,7 @@ namespace zrk::cvs {
 void ParseCVSStatusLine(std::string_view line, ZRKCVSStatus& record);
 
 // Reads the report of one file, line by line, and appends the first line below "Existing Tags:" to the
-// tags. What the report does not tell stays as it was. Always 0.
+// tags. What the report does not give stays as it was. Always 0.
 int ParseCVSStatusBlock(std::string_view block, ZRKCVSStatus& record);
 
 // Path of the file below the repository's root folder, separated by "\": what follows the first mention of

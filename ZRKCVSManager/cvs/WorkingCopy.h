@@ -8,7 +8,7 @@
 
 namespace zrk::cvs {
 
-// Where the documents of a product tree are kept under version control, told by the files that the
+// Where the documents of a product tree are kept under version control, as shown by the files that the
 // clients keep in the folder of a document.
 struct WorkingCopy {
   // The document examined last lies in a Subversion working copy: `.svn\entries` is beside it, or a database
@@ -34,7 +34,7 @@ struct WorkingCopy {
 // ends its branch.
 void DiscoverWorkingCopy(const CATIProduct_var& product, WorkingCopy& workingCopy);
 
-// Tells which documents lie in a CVS working copy. The answer for the last folder is remembered, as most
+// Says which documents lie in a CVS working copy. The answer for the last folder is remembered, as most
 // products of an assembly have their documents beside each other: good for one walk over a tree.
 class CVSFolders {
 public:

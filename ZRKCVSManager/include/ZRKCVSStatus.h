@@ -8,7 +8,7 @@
 
 class CATBaseUnknown;
 
-// The version-control state of one file, as the clients' reports and the working copy's own files tell
+// The version-control state of one file, as the clients' reports and the working copy's own files give
 // it. A new record knows nothing: every text is empty, every flag 0. Copying may throw std::bad_alloc.
 //
 // The fields from File to ExistingTags come from the report of `cvs status -v`, each from the line with

@@ -42,21 +42,21 @@ public:
   // Runs the client of the working copy; see tools::RunTool.
   void RunTool(const CATUnicodeString& arguments, const CATUnicodeString& workingFolder,
                CATUnicodeString& output);
-  // 1 when the path of cvs.exe is known, else 0 after the user was told.
+  // 1 when the path of cvs.exe is known, else 0 after a warning to the user.
   std::int32_t CheckCVSToolPath();
   // Fills the working-copy fields from the product's tree; see cvs::DiscoverWorkingCopy.
   void DiscoverWorkingCopy(const CATIProduct_var& product);
-  // Fills the record from `cvs status -v` on that file; what the report does not tell stays as it was.
+  // Fills the record from `cvs status -v` on that file; what the report does not give stays as it was.
   // Always 0.
   HRESULT QueryCVSFileStatus(const CATUnicodeString& documentPath, ZRKCVSStatus& record);
 
-  // The CVS operations start with this: cvs.exe is known (else the user is told) and so is the working copy,
-  // looked for in the tree of the product when it is not.
+  // The CVS operations start with this: cvs.exe is known (else the user is warned) and so is the working
+  // copy, looked for in the tree of the product when it is not.
   bool MakeReadyForCVS(const CATIProduct_var& product);
   // Brings the caches and the attributes of the manager's own product up to date for its one document.
   void RefreshOneFile(const CATUnicodeString& documentPath);
 
-  // The manager's working copy is Subversion's. Told by the document examined last.
+  // The manager's working copy is Subversion's. The document examined last decides.
   bool IsSVN = false;
   // The class of package "ZRKCVS"; null when the attribute dictionary does not know the package.
   ZRKIAttClass_var AttributeClass;

@@ -24,7 +24,7 @@ struct ToolContext {
 // `output`. The reading also ends, with the client still running, once the whole of `output` holds
 // "revert changes": the client then waits for an answer (AnswerTool); and when the client writes no byte.
 //
-// Nothing runs in CVS mode without a path of cvs.exe. Failures are told on the debugger channel alone and
+// Nothing runs in CVS mode without a path of cvs.exe. Failures are reported on the debugger channel alone and
 // leave `output` as it is. The client's exit status is not known. Afterwards the write end of the
 // client's standard input is open, and after a question or an empty write also the read end of its output,
 // until FinishRun

@@ -9,7 +9,7 @@ class ZRKICVS : public CATBaseUnknown {
 
   // Assigns to `path` the full path of the file that the product's document is stored in: of an
   // instance, the document of its reference. Without a document `path` is left as it was, so pass an
-  // empty text to tell.
+  // empty text to give.
   virtual void GetStorageName(CATUnicodeString& path) = 0;
 };
 

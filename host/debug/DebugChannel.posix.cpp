@@ -23,5 +23,5 @@ void SetDebugListener(DebugListener listener) {
 void OutputDebugStringW(LPCWSTR message) try {
   standin::slot.Tell(message ? message : L"");
 } catch (const std::bad_alloc&) {
-  // There is nobody to tell.
+  // Nobody listens.
 }

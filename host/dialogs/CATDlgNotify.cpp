@@ -11,7 +11,7 @@ namespace {
 
 constexpr unsigned int kYesNoStyle = 0x800000;
 
-// Told by their addresses, so that one that has ended is recognised without being touched.
+// Known by their addresses, so that one that has ended is recognised without being touched.
 std::set<const CATDlgNotify*>& LiveDialogs() {
   static auto* const dialogs = new std::set<const CATDlgNotify*>;
   return *dialogs;

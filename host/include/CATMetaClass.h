@@ -57,7 +57,7 @@ private:
 CATMetaClass* fct_RetrieveMetaObject(const char* className, CATMetaClassKind kind, CATMetaClass* parent,
                                      const char* lateType, const char* access, CATExtensionFactory factory);
 
-// The same for an interface, which is told by its identifier.
+// The same for an interface, which is known by its identifier.
 CATMetaClass* fct_RetrieveInterfaceMetaObject(const CATIID& interfaceId, const char* name);
 
 // Interfaces declare and define their identity with these two.

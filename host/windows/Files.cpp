@@ -74,7 +74,7 @@ extern "C" std::FILE* __wrap_fopen(const char* hostPath, const char* mode) try {
 int _stat64i32(const char* path, struct _stat64i32* result) {
   struct stat status {};
   if (stat(standin::FilePath(path).c_str(), &status) != 0) return -1;
-  // The owner's bits are those of Windows. They are told as they are set, also to a user who may do
+  // The owner's bits are those of Windows. They are given as they are set, also to a user who may do
   // everything.
   static_assert(S_IRUSR == _S_IREAD && S_IWUSR == _S_IWRITE);
   result->st_mode = static_cast<std::uint16_t>(status.st_mode & (S_IFMT | S_IRWXU));

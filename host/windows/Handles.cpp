@@ -87,7 +87,7 @@ BOOL WriteFile(HANDLE handle, LPCVOID buffer, DWORD size, LPDWORD written, LPOVE
   const standin::NoBrokenPipeSignal noSignal;
   const char* const bytes = static_cast<const char*>(buffer);
   std::size_t done = 0;
-  do {  // once also for no bytes at all, which tells whether the handle can be written to
+  do {  // once also for no bytes at all, which shows whether the handle can be written to
     const ssize_t count = ::write(object->Descriptor.Get(), bytes + done, size - done);
     if (count < 0 && errno != EINTR) return FALSE;
     if (count > 0) done += static_cast<std::size_t>(count);

@@ -27,7 +27,7 @@ void Check(int error) {
   if (error != 0) throw std::system_error(error, std::generic_category());
 }
 
-// What posix_spawn is told about the child's start. It is posix_spawn and not fork because the cost of a
+// What posix_spawn needs for the child's start. It is posix_spawn and not fork because the cost of a
 // fork grows with the memory of the host, which may hold a large model.
 class ChildStart {
 public:

@@ -49,7 +49,7 @@ void CVSRepository::Commit(const fs::path& folder, const std::string& file,
                            const std::string& contents) const {
   if (!IsWritable(folder / file)) Run({"edit", file}, folder);
   WriteFile(folder / file, contents);
-  // The client tells a change by the time of the file, which has whole seconds here; it is told to commit.
+  // The client sees a change by the time of the file, which has whole seconds here; it is made to commit.
   Run({"commit", "-f", "-m", "next", file}, folder);
 }
 

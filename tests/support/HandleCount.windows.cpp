@@ -8,7 +8,7 @@
 
 namespace {
 
-// What the system tells of every handle of every process. GetProcessHandleCount would be simpler, but
+// What the system says of every handle of every process. GetProcessHandleCount would be simpler, but
 // Wine answers it with 0.
 struct SystemHandle {
   void* Object;
@@ -47,7 +47,7 @@ std::vector<HANDLE> OpenHandles() {
                          nullptr)) == kTooSmall) {
     buffer.resize(buffer.size() * 2);
   }
-  if (result != 0) throw std::runtime_error("the system does not tell its handles");
+  if (result != 0) throw std::runtime_error("the system does not give its handles");
   const auto& all = *reinterpret_cast<const SystemHandles*>(buffer.data());
   std::vector<HANDLE> handles;
   for (ULONG_PTR i = 0; i < all.Count; ++i) {

@@ -4,7 +4,7 @@
 #include <sstream>
 #include <string>
 
-// Takes what std::cout writes while it lives, and tells what of it was flushed.
+// Takes what std::cout writes while it lives, and shows what of it was flushed.
 class FlushedOutput : private std::stringbuf {
 public:
   FlushedOutput() : original_(std::cout.rdbuf(this)) {}

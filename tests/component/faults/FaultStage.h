@@ -17,7 +17,7 @@
 namespace faults {
 
 // A product "car" whose document lies in a CVS or Subversion working copy, the interface to its manager,
-// and a record of what is told to the debugger and of the clients that are started.
+// and a record of what is written to the debugger and of the clients that are started.
 class FaultStage {
 public:
   enum class Kind { CVS, SVN };

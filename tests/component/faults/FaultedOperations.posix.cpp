@@ -88,7 +88,7 @@ Operation Edit() {
           [](FaultStage& stage) { stage.Clients.When("status -v").Out(FaultStage::StatusReport()); },
           [](FaultStage& stage) { return stage.Manager().Edit(); },
           [](const FaultStage& stage, HRESULT result, const Loss& loss) {
-            // A client that says nothing has done what it was told.
+            // A client that says nothing has done what it was asked.
             EXPECT_EQ(result, S_OK);
             EXPECT_TRUE(stage.Dialogs().empty());
             ExpectTaken(stage, loss.Run == 2 ? "" : "1.4");

@@ -73,7 +73,7 @@ protected:
     std::vector<Outcome> outcomes;
     std::vector<Outcome> expected;
     {
-      // A failure that is told in here would be captured too.
+      // A failure that is reported in here would be captured too.
       const CapturedOutput quiet;
       const int before = CountOpenHandles();
       for (int i = 0; i < times; ++i) {

@@ -14,7 +14,7 @@ std::string Text(const CATUnicodeString& text) {
   return text.ConvertToChar();
 }
 
-// Nothing was run, written, shown or told by a refresh.
+// Nothing was run, written, shown or reported by a refresh.
 class NothingDone {
 public:
   NothingDone(const ScriptedClient& client, ZRKECVSManager& manager) : client_(client), manager_(manager) {

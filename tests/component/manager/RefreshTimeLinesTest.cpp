@@ -1,4 +1,4 @@
-// Which line of a CVS refresh tells the time of which step.
+// Which line of a CVS refresh gives the time of which step.
 
 #include <gtest/gtest.h>
 
@@ -21,7 +21,7 @@ protected:
     manager.RefreshStatus(Root("car"));
   }
 
-  // The ticks that a message tells in seconds.
+  // The ticks that a message gives in seconds.
   std::clock_t Ticks(std::size_t message) const {
     const std::wstring& text = messages_.All().at(message);
     return std::lround(std::stod(text.substr(text.find(L": ") + 2)) * 1000.0);

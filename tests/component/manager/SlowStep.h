@@ -9,7 +9,7 @@
 #include "product/ProductModel.h"
 #include "windows/LaunchLog.h"
 
-// What the clocks of a refresh measure, told by a step that is made to take longer than all others. All is
+// What the clocks of a refresh measure, shown by a step that is made to take longer than all others. All is
 // read from the clock that the component reads, so that what it measured is never more than what passed
 // around it here and never less than what passed within it, however busy the machine is.
 

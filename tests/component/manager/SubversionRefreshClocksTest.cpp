@@ -1,4 +1,4 @@
-// What the clocks of a Subversion refresh measure, told by steps that take a while.
+// What the clocks of a Subversion refresh measure, shown by steps that take a while.
 
 #include <gtest/gtest.h>
 

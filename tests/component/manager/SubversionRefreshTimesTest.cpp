@@ -1,4 +1,4 @@
-// Where the time of a Subversion refresh went, as it is told on the debugger channel.
+// Where the time of a Subversion refresh went, as it is reported on the debugger channel.
 
 #include <gtest/gtest.h>
 

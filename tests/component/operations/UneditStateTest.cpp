@@ -16,7 +16,7 @@ protected:
     EXPECT_TRUE(Dialogs().empty());
   }
 
-  // What the products whose file the reports do not know are told of on standard output.
+  // Where the products are named whose file the reports do not know.
   CapturedOutput output_;
 };
 

@@ -24,7 +24,7 @@
 
 namespace {
 
-// Has no interfaces, and when it is told to, no memory to say so.
+// Has no interfaces, and when it is asked to, no memory to say so.
 class ForgetfulObject final : public CATBaseUnknown {
 public:
   CATBaseUnknown* QueryInterface(const CATIID&) override {
@@ -42,7 +42,7 @@ public:
   unsigned long AddRef() override { throw std::bad_alloc(); }
 };
 
-// Standard output that cannot be written to and tells by throwing, while it lives.
+// Standard output that cannot be written to and throws, while it lives.
 class ThrowingOutput : public std::streambuf {
 public:
   ThrowingOutput() : before_(std::cout.rdbuf(this)) { std::cout.exceptions(std::ios::badbit); }

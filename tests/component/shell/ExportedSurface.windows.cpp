@@ -15,7 +15,7 @@ struct LibraryEnder {
   void operator()(HINSTANCE__* library) const { FreeLibrary(library); }
 };
 
-// A library as it lies in memory, mapped but not run. Places in it are told as distances from its start.
+// A library as it lies in memory, mapped but not run. Places in it are given as distances from its start.
 class MappedLibrary {
 public:
   explicit MappedLibrary(const std::filesystem::path& path)

@@ -48,7 +48,7 @@ struct Lock {
 };
 
 // A committed file of formats 9 and 10 (33 lines) or of format 8, which has no working size behind the
-// lock and so ends early when nothing else is to be told.
+// lock and so ends early when nothing else is to be said.
 inline Lines FileLines(int format, const std::string& name, const std::string& revision,
                        const std::string& author, const Lock& lock = {}) {
   Lines lines(33);

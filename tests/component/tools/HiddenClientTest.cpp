@@ -6,7 +6,7 @@
 #include "support/HandleCount.h"
 #include "support/Launches.h"
 
-// Where there is no display no console has a window, so that only this tells.
+// Where there is no display no console has a window, so that only this shows it.
 TEST(AHiddenClient, IsStartedWithoutAWindowAndWithNothingElse) {
   ToolRunner tool;
   const Launches launches;

@@ -20,7 +20,7 @@ std::string Chunks(std::string text) {
   return text;
 }
 
-// Runs a client that waits for the end of its input behind the question. A run that waits too is told by
+// Runs a client that waits for the end of its input behind the question. A run that waits too is known by
 // its output; it is long over when it must not be waited for any longer.
 std::string RunWaiting(ToolRunner& tool, const char* arguments = "unedit", const char* before = "") {
   auto run = std::async(std::launch::async, [&] { return tool.Run(arguments, before); });

@@ -12,7 +12,7 @@
 #include "windows/LaunchLog.h"
 #include "windows/WindowsControl.h"
 
-// Every call to the system that can fail is made to, and told of in the words that are promised.
+// Every call to the system that can fail is made to, and is reported in the words that are promised.
 
 using standin::WindowsCall;
 

@@ -48,7 +48,7 @@ private:
   OwnPart own_{*this};
 };
 
-// An extension that tells when it is made and when it ends.
+// An extension that records when it is made and when it ends.
 class TestExtension final : public CATBaseUnknown {
 public:
   explicit TestExtension(CATBaseUnknown& extended);
