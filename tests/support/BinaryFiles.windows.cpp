@@ -4,9 +4,9 @@
 #include <stdlib.h>
 
 BinaryFiles::BinaryFiles() {
-  _set_fmode(_O_BINARY);
+  _fmode = _O_BINARY;
 }
 
 BinaryFiles::~BinaryFiles() {
-  _set_fmode(_O_TEXT);
+  _fmode = _O_TEXT;
 }
