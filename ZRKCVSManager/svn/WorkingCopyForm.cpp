@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "files/ClientFile.h"
@@ -19,36 +20,36 @@ std::optional<FolderForm> FormBeside(const std::string& folder) {
   return std::nullopt;
 }
 
-// Nothing above a drive, which has no separator any more, and above `\\server\share`.
-std::optional<std::string> FolderAbove(const std::string& folder) {
-  const std::string_view above = text::FolderOf(folder);
-  if (above == folder || text::FolderOf(above) == "\\") return std::nullopt;
-  return std::string(above);
-}
-
 }  // namespace
 
 const FolderForm& WorkingCopyForms::Of(const std::string& folder) {
   std::vector<std::string> undecided;
   FolderForm inherited;
-  for (std::optional<std::string> current = folder; current; current = FolderAbove(*current)) {
-    if (const auto known = known_.find(*current); known != known_.end()) {
+  for (std::optional<std::string_view> above = folder; above; above = text::FolderAbove(*above)) {
+    std::string current(*above);
+    if (const auto known = known_.find(current); known != known_.end()) {
       inherited = known->second;
       break;
     }
-    if (const std::optional<FolderForm> form = FormBeside(*current)) {
-      inherited = known_.emplace(*current, *form).first->second;
+    if (const std::optional<FolderForm> form = FormBeside(current)) {
+      inherited = known_.emplace(std::move(current), *form).first->second;
       break;
     }
-    undecided.push_back(*current);
+    undecided.push_back(std::move(current));
   }
   if (inherited.Kind == Form::Text) inherited = {};
   for (const std::string& below : undecided) known_.emplace(below, inherited);
   return known_.at(folder);
 }
 
-Form FormOfDocument(const CATUnicodeString& documentPath) {
-  return WorkingCopyForms().Of(std::string(text::FolderOf(text::View(documentPath)))).Kind;
+const FolderForm& WorkingCopyForms::OfDocument(const CATUnicodeString& path) {
+  static const FolderForm nowhere;
+  if (path.GetLengthInByte() == 0) return nowhere;
+  return Of(std::string(text::FolderOf(text::View(path))));
+}
+
+Form FormOfDocument(const CATUnicodeString& path) {
+  return WorkingCopyForms().OfDocument(path).Kind;
 }
 
 }  // namespace zrk::svn

@@ -30,12 +30,14 @@ public:
   // The form of a folder without a closing "\", which need not exist. The way up ends without a database
   // at a folder with text entries or `CVS\Repository`, at a drive and at a `\\server\share`.
   const FolderForm& Of(const std::string& folder);
+  // That of the folder of a document; none for one that was never stored, whose path is empty.
+  const FolderForm& OfDocument(const CATUnicodeString& path);
 
 private:
   std::unordered_map<std::string, FolderForm> known_;
 };
 
-// The form of the folder of the document of that full path.
-Form FormOfDocument(const CATUnicodeString& documentPath);
+// The form of the folder of that document, looked for anew.
+Form FormOfDocument(const CATUnicodeString& path);
 
 }  // namespace zrk::svn

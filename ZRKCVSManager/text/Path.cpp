@@ -27,6 +27,13 @@ std::string_view FolderOf(std::string_view path) {
   return path.substr(0, LastSeparator(path));
 }
 
+std::optional<std::string_view> FolderAbove(std::string_view folder) {
+  const std::string_view above = FolderOf(folder);
+  // Above a share stands the server alone, behind its two separators.
+  if (above == folder || FolderOf(above) == "\\") return std::nullopt;
+  return above;
+}
+
 std::string_view NameOf(std::string_view path) {
   const std::size_t separator = LastSeparator(path);
   return separator == std::string_view::npos ? path : path.substr(separator + 1);

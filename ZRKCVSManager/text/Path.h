@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
 
 // Parts of the host's paths: 8-bit text in the active code page, separated by "\". All is done by
@@ -10,6 +11,10 @@ namespace zrk::text {
 
 // What stands before the last separator; the whole path without one.
 std::string_view FolderOf(std::string_view path);
+
+// The folder above one that is written without a closing "\"; nothing above a drive, a `\\server\share` and a
+// name without a separator. The root of the current drive is empty.
+std::optional<std::string_view> FolderAbove(std::string_view folder);
 
 // What stands behind the last separator; the whole path without one.
 std::string_view NameOf(std::string_view path);

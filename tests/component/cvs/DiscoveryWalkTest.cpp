@@ -9,6 +9,7 @@
 #include "framework/Facet.h"
 #include "support/Assembly.h"
 #include "support/CVSFolder.h"
+#include "support/CurrentFolder.h"
 #include "support/Files.h"
 
 using testing::ElementsAre;
@@ -47,18 +48,6 @@ public:
 private:
   CATBaseUnknown_var product_;
   CATBaseUnknown_var parent_;
-};
-
-// The process's own folder while it lives.
-class CurrentFolder {
-public:
-  explicit CurrentFolder(const std::filesystem::path& folder) { std::filesystem::current_path(folder); }
-  CurrentFolder(const CurrentFolder&) = delete;
-  CurrentFolder& operator=(const CurrentFolder&) = delete;
-  ~CurrentFolder() { std::filesystem::current_path(before_); }
-
-private:
-  std::filesystem::path before_ = std::filesystem::current_path();
 };
 
 class DiscoveryWalk : public testing::Test {

@@ -7,6 +7,7 @@
 #include "support/JapaneseCodePage.h"
 
 using zrk::text::Find;
+using zrk::text::FolderAbove;
 using zrk::text::FolderOf;
 using zrk::text::NameOf;
 
@@ -26,6 +27,22 @@ TEST(Path, IsFolderAndNameWithoutASeparator) {
   EXPECT_EQ(NameOf("C:/w/a"), "C:/w/a");
   EXPECT_EQ(FolderOf(""), "");
   EXPECT_EQ(NameOf(""), "");
+}
+
+TEST(Path, HasTheFoldersAboveItUpToADriveOrTheRootOfTheCurrentOne) {
+  EXPECT_EQ(FolderAbove("C:\\w\\sub"), "C:\\w");
+  EXPECT_EQ(FolderAbove("C:\\w"), "C:");
+  EXPECT_EQ(FolderAbove("C:"), std::nullopt);
+  EXPECT_EQ(FolderAbove("\\w\\sub"), "\\w");
+  EXPECT_EQ(FolderAbove("\\w"), "");
+  EXPECT_EQ(FolderAbove(""), std::nullopt);
+  EXPECT_EQ(FolderAbove("w"), std::nullopt);
+}
+
+TEST(Path, HasTheFoldersAboveItUpToAShare) {
+  EXPECT_EQ(FolderAbove("\\\\server\\share\\w\\sub"), "\\\\server\\share\\w");
+  EXPECT_EQ(FolderAbove("\\\\server\\share\\w"), "\\\\server\\share");
+  EXPECT_EQ(FolderAbove("\\\\server\\share"), std::nullopt);
 }
 
 TEST(Path, IsSearchedFromTheFront) {
