@@ -9,8 +9,8 @@ namespace {
 constexpr const char* kStatusOfBoth = " status -v -u --xml --non-interactive --ignore-externals";
 constexpr const char* kStatusOfWorkingCopy = " status -v --xml --non-interactive --ignore-externals";
 
-// In double quotes. A quotation mark within is escaped, and the backslashes before it doubled, as every
-// program splits its command line.
+// In double quotes, as every program splits its command line: a quotation mark within is escaped, and the
+// backslashes before it and at the end are doubled.
 CATUnicodeString Quoted(std::string_view path) {
   std::string quoted = "\"";
   std::size_t backslashes = 0;
@@ -19,6 +19,7 @@ CATUnicodeString Quoted(std::string_view path) {
     backslashes = character == '\\' ? backslashes + 1 : 0;
     quoted += character;
   }
+  for (; !path.empty() && text::NameOf(path).empty(); path = text::FolderOf(path)) quoted += '\\';
   return (quoted + '"').c_str();
 }
 
