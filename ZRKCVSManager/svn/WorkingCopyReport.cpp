@@ -104,6 +104,7 @@ bool ReadWorkingCopyReport(const CATUnicodeString& report, Repository repository
   if (!entries) return true;
   for (int i = 0; i < entries->GetLength(); ++i) {
     const CATIDOMElement_var entry(entries->Item(i));
+    if (!entry) continue;
     // Stepping over those within another keeps the work linear, however deep they stand.
     const int within = CountBelow(entry, "entry");
     if (within > 0) {
