@@ -18,10 +18,6 @@
 namespace zrk::svn {
 namespace {
 
-std::string FolderOfDocument(const CATUnicodeString& path) {
-  return std::string(text::FolderOf(text::View(path)));
-}
-
 bool IsAtOrBelow(std::string_view folder, std::string_view above) {
   return folder.starts_with(above) && (folder.size() == above.size() || folder[above.size()] == '\\');
 }
@@ -37,21 +33,39 @@ std::string ExistingFolder(std::string_view folder, std::string_view root) {
   return std::string(folder);
 }
 
-// For the root of each working copy the deepest folder that holds all its documents in the tree.
-std::map<std::string, std::string> FoldersByWorkingCopy(const CATBaseUnknown_var& product,
-                                                        WorkingCopyForms& forms) {
-  std::map<std::string, std::string> folders;
+struct WorkingCopy {
+  // The deepest folder that holds all its documents in the tree.
+  std::string Folder;
+  // What its own report says. That of a working copy around it may name its files too, and knows less of
+  // them.
+  ReportedFiles Files;
+};
+
+using WorkingCopies = std::map<std::string, WorkingCopy>;
+
+// By their roots, without the reports.
+WorkingCopies CollectWorkingCopies(const CATBaseUnknown_var& product, WorkingCopyForms& forms) {
+  WorkingCopies copies;
   product::WalkProductTree(product, [&](const CATBaseUnknown_var& object) {
     const product::ProductDocument document = product::ReachDocument(object);
-    const std::string folder = FolderOfDocument(document.Path);
-    const FolderForm& form = forms.Of(folder);
+    const FolderForm& form = forms.OfDocument(document.Path);
     if (form.Kind == Form::Database) {
-      const auto [known, isNew] = folders.try_emplace(form.DatabaseRoot, folder);
-      if (!isNew) known->second = CommonFolder(known->second, folder);
+      const std::string_view folder = text::FolderOf(text::View(document.Path));
+      const auto [copy, isNew] = copies.try_emplace(form.DatabaseRoot);
+      copy->second.Folder = isNew ? std::string(folder) : CommonFolder(copy->second.Folder, folder);
     }
     return document.Exists();
   });
-  return folders;
+  return copies;
+}
+
+// What is reported of a document that lies in a folder of that form; null when nothing is.
+const ReportedFile* FindReported(const WorkingCopies& copies, const FolderForm& form,
+                                 const CATUnicodeString& path) {
+  const auto copy = copies.find(form.DatabaseRoot);
+  if (form.Kind != Form::Database || copy == copies.end()) return nullptr;
+  const auto file = copy->second.Files.find(std::string(text::View(path)));
+  return file == copy->second.Files.end() ? nullptr : &file->second;
 }
 
 // The file of that name in the report of one file, which stands under a path of the client's own writing.
@@ -73,9 +87,9 @@ ZRKCVSStatus RecordOf(const ReportedFile* file) {
 std::int32_t RefreshDatabaseTree(const SVNContext& context, const CATBaseUnknown_var& product,
                                  SVNTimes& times) {
   WorkingCopyForms forms;
-  ReportedFiles files;
-  for (const auto& [root, folder] : FoldersByWorkingCopy(product, forms)) {
-    ReadStatusOfFolder(context, ExistingFolder(folder, root), times, files);
+  WorkingCopies copies = CollectWorkingCopies(product, forms);
+  for (auto& [root, copy] : copies) {
+    ReadStatusOfFolder(context, ExistingFolder(copy.Folder, root), times, copy.Files);
   }
 
   const tools::RunClock clock;
@@ -84,11 +98,11 @@ std::int32_t RefreshDatabaseTree(const SVNContext& context, const CATBaseUnknown
   product::WalkProductTree(product, [&](const CATBaseUnknown_var& object) {
     const product::ProductDocument document = product::ReachDocumentOrClear(object, context.AttributeClass);
     if (!document.Exists()) return false;
-    if (forms.Of(FolderOfDocument(document.Path)).Kind == Form::Text) {
+    const FolderForm& form = forms.OfDocument(document.Path);
+    if (form.Kind == Form::Text) {
       RefreshInTree(context, object, document.Path, ofTextForm);
     } else {
-      const auto file = files.find(std::string(text::View(document.Path)));
-      const ZRKCVSStatus record = RecordOf(file == files.end() ? nullptr : &file->second);
+      const ZRKCVSStatus record = RecordOf(FindReported(copies, form, document.Path));
       ShowOnProduct(context, object, record, TreeComment(record));
     }
     return true;

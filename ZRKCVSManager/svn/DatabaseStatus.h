@@ -10,7 +10,9 @@
 //
 //   "Revision"  the last committed revision; empty when there is none
 //   "Status"    "Edit" when this working copy holds the lock, "Locked" when somebody else does, else
-//   "ReadOnly" "Release"   empty "Comment"   the lock's owner and comment; each operation has its own form
+//               "ReadOnly"
+//   "Release"   empty
+//   "Comment"   the lock's owner and comment; each operation has its own form
 //
 // A document that the working copy does not hold, or that lies in none, takes the attributes off its product;
 // either way the product is redrawn. A product that cannot have a document loses its attributes too, without
