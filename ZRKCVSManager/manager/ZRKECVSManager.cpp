@@ -39,16 +39,12 @@ HRESULT ZRKECVSManager::GetFileStatus(const CATIProduct_var& product, ZRKCVSStat
   const product::ProductDocument document = product::ReachDocument(product);
   if (document.Path.GetLengthInByte() == 0) return S_OK;
   const tools::RunScope run(Tools());
-  if (!IsSVN || !KnowsSVNDatabase()) return QueryCVSFileStatus(document.Path, record);
-  switch (svn::FormOfDocument(document.Path)) {
-    case svn::Form::Database:
-      return QuerySVNFileStatus(document.Path, record);
-    case svn::Form::Text:
-      return QueryCVSFileStatus(document.Path, record);
-    case svn::Form::None:
-      break;
+  if (IsSVN) {
+    const svn::Form form = svn::FormOfDocument(document.Path);
+    if (form == svn::Form::Database) return QuerySVNFileStatus(document.Path, record);
+    if (form == svn::Form::None && KnowsSVNDatabase()) return S_OK;
   }
-  return S_OK;
+  return QueryCVSFileStatus(document.Path, record);
 }
 
 HRESULT ZRKECVSManager::SVNDelete(const CATUnicodeString& file) {
