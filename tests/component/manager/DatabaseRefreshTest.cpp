@@ -1,0 +1,212 @@
+// The refresh of a manager that found a Subversion working copy with a database.
+
+#include <gtest/gtest.h>
+
+#include "ZRKICVSManager.h"
+#include "attributes/AttributeDictionary.h"
+#include "component/manager/SlowStep.h"
+#include "component/svn/DatabaseStage.h"
+#include "manager/ZRKECVSManager.h"
+#include "support/CapturedOutput.h"
+#include "support/DebugMessages.h"
+#include "support/DialogRecorder.h"
+#include "support/HandleCount.h"
+
+namespace {
+
+using namespace reports;
+
+using Paths = std::vector<std::string>;
+
+class DatabaseRefresh : public DatabaseStage {
+protected:
+  DatabaseRefresh() {
+    Products.Add("car", "wc/car").Add("wheel", "wc/sub/wheel").Place("car", "wheel.1", "wheel");
+    Report({{.Path = "car", .Revision = "9"}, {.Path = "sub/wheel", .Revision = "5"}});
+  }
+
+  ZRKICVSManager_var Manager() const { return Products.At("car"); }
+};
+
+TEST_F(DatabaseRefresh, BringsTheManagersWholeTreeUpToDateInOneRun) {
+  Manager()->RefreshStatus(Products.At("car"));
+  EXPECT_EQ(Arguments(), Lists{StatusOfBoth});
+  EXPECT_EQ(Shown("car"), (StatusAttributes{"9", "ReadOnly", "", ""}));
+  EXPECT_EQ(Shown("car/wheel.1"), (StatusAttributes{"5", "ReadOnly", "", ""}));
+  EXPECT_EQ(Redrawn.Paths(), (Paths{"car", "car/wheel.1"}));
+}
+
+TEST_F(DatabaseRefresh, IgnoresItsArgument) {
+  Products.Add("other", "wc/sub/other");
+  const ZRKICVSManager_var manager = Manager();
+  for (const CATBaseUnknown_var& root :
+       {CATBaseUnknown_var(), Products.At("other"), Products.At("car/wheel.1")}) {
+    const RedrawnProducts redrawn;
+    manager->RefreshStatus(root);
+    EXPECT_EQ(redrawn.Paths(), (Paths{"car", "car/wheel.1"}));
+  }
+  EXPECT_EQ(RunFolders(), Texts(3, Folder.Host("wc")));
+}
+
+TEST_F(DatabaseRefresh, AsksEveryTimeAnewAlsoWhichFormAFolderHas) {
+  const ZRKICVSManager_var manager = Manager();
+  manager->RefreshStatus(nullptr);
+  Report({{.Path = "car", .Revision = "10"}});
+  WriteEntries("wc/sub", entries::File(10, "wheel", "4", "bert"));
+  manager->RefreshStatus(nullptr);
+  EXPECT_EQ(Shown("car")->Revision, "10");
+  EXPECT_EQ(Shown("car/wheel.1")->Revision, "4");
+}
+
+TEST_F(DatabaseRefresh, RefreshesDocumentsWithTextEntriesInTheWorkingFolderThatWasFound) {
+  WriteEntries("old", entries::File(10, "part", "4", "bert"));
+  Products.Add("part", "old/part").Place("car", "part.1", "part");
+  // The document of the car ends its branch: only below one in no working copy are both found.
+  Products.Add("all", "plain/all").Place("all", "car.1", "car").Place("all", "part.1", "part");
+  ZRKICVSManager_var(Products.At("all"))->RefreshStatus(nullptr);
+  ASSERT_EQ(Client.Runs().size(), 5U);
+  for (std::size_t run = 1; run < 5; ++run) EXPECT_EQ(RunFolders()[run], Folder.Host("old"));
+  EXPECT_EQ(Shown("all/part.1")->Revision, "4");
+
+  Client.ClearRuns();
+  Manager()->RefreshStatus(nullptr);
+  ASSERT_EQ(Client.Runs().size(), 3U);
+  for (const std::string& folder : RunFolders()) EXPECT_EQ(folder, Folder.Host("wc"));
+}
+
+TEST_F(DatabaseRefresh, IsThatOfCVSWhenTheDocumentExaminedLastIsCVSs) {
+  WriteCVS("cvs");
+  Products.Add("part", "cvs/part").Add("all", "plain/all");
+  Products.Place("all", "car.1", "car").Place("all", "part.1", "part");
+  ZRKICVSManager_var(Products.At("all"))->RefreshStatus(Products.At("all"));
+  ASSERT_FALSE(Client.Runs().empty());
+  for (const ClientRun& run : Client.Runs()) EXPECT_EQ(run.Program, "cvs.exe");
+}
+
+TEST_F(DatabaseRefresh, StaysThatOfTheTextFormWhereNoDatabaseIs) {
+  std::filesystem::remove_all(Folder / "wc/.svn");
+  for (const char* folder : {"wc", "wc/sub"}) WriteEntries(folder, entries::Folder("12"));
+  Manager()->RefreshStatus(nullptr);
+  EXPECT_EQ(Arguments(), TreeReports({"wc/car", "wc/sub/wheel"}));
+}
+
+TEST_F(DatabaseRefresh, TouchesNeitherTheCVSTablesNorTheCommunicationTimeNorStandardOutput) {
+  ZRKECVSManager manager(*Products.At("car").Get());
+  manager.StatusBlockTable.emplace("a", "block");
+  manager.EditTable.emplace("b", "line");
+  manager.CommTime = 7;
+  const CapturedOutput output;
+  manager.RefreshStatus(nullptr);
+  EXPECT_EQ(manager.StatusBlockTable, (zrk::cvs::ReportTable{{"a", "block"}}));
+  EXPECT_EQ(manager.EditTable, (zrk::cvs::ReportTable{{"b", "line"}}));
+  EXPECT_EQ(manager.CommTime, 7);
+  EXPECT_EQ(output.Bytes(), "");
+}
+
+TEST_F(DatabaseRefresh, LeavesNoHandleOpen) {
+  const ZRKICVSManager_var manager = Manager();
+  manager->RefreshStatus(nullptr);
+  const int before = CountOpenHandles();
+  manager->RefreshStatus(nullptr);
+  ReportOutOfReach({});
+  manager->RefreshStatus(nullptr);
+  EXPECT_EQ(CountOpenHandles(), before);
+}
+
+TEST_F(DatabaseRefresh, NeedsNoCVSAndShowsNoNotice) {
+  const ScriptedClient client(InstalledClients::None);
+  const DialogRecorder dialogs;
+  const DebugMessages messages;
+  Manager()->RefreshStatus(nullptr);
+  EXPECT_TRUE(dialogs.Requests().empty());
+  // Two messages for each of the two runs, and the three times.
+  ASSERT_EQ(messages.All().size(), 7U);
+  EXPECT_EQ(messages.All()[2], L"CreateProcess failed\n");
+  EXPECT_EQ(messages.All()[3], L"Create process failed with");
+}
+
+TEST_F(DatabaseRefresh, WithoutAnAttributeDictionaryStillRedraws) {
+  standin::RemoveAttributeDictionary();
+  Manager()->RefreshStatus(nullptr);
+  EXPECT_EQ(Client.Runs().size(), 1U);
+  EXPECT_EQ(Redrawn.Paths(), (Paths{"car", "car/wheel.1"}));
+}
+
+// Where its time went.
+
+class DatabaseRefreshTimes : public DatabaseRefresh {
+protected:
+  ~DatabaseRefreshTimes() override {
+    standin::SetLaunchListener({});
+    standin::SetRedrawListener({});
+  }
+
+  static std::wstring Line(const wchar_t* label, double ticks) {
+    const CATUnicodeString seconds = CATUnicodeString::BuildFromNum(ticks / 1000.0, "%g");
+    return std::wstring(L"\n") + label + L": " + seconds.ConvertToWideChar() + L" sec\n";
+  }
+  static std::clock_t Ticks(double time) { return static_cast<std::clock_t>(time); }
+
+  ZRKECVSManager TheManager{*Products.At("car").Get()};
+};
+
+TEST_F(DatabaseRefreshTimes, AreThreeMessagesInTheOrderOfTheSteps) {
+  const DebugMessages messages;
+  standin::SetLaunchListener([](const standin::Launch&) { LetTimePass(); });
+  standin::SetRedrawListener([](const CATBaseUnknown_var&) { LetTimePass(); });
+  TheManager.RefreshStatus(nullptr);
+  EXPECT_EQ(messages.All(),
+            (std::vector<std::wstring>{
+                Line(L"SVN status check time", TheManager.SVNTimings.StatusCheck),
+                Line(L"XML Parsing time", TheManager.SVNTimings.XMLParsing),
+                Line(L"Refreshing status time (attributing)", TheManager.SVNTimings.Attributing)}));
+}
+
+TEST_F(DatabaseRefreshTimes, TheRunsCountIntoTheStatusCheckAlone) {
+  const TimesAround times = WithSlowLaunch(L"status", [&] { TheManager.RefreshStatus(nullptr); });
+  EXPECT_GE(Ticks(TheManager.SVNTimings.StatusCheck), times.Within);
+  EXPECT_LE(Ticks(TheManager.SVNTimings.XMLParsing), times.After);
+  EXPECT_LE(Ticks(TheManager.SVNTimings.Attributing), times.After);
+}
+
+TEST_F(DatabaseRefreshTimes, BothRunsOfEachWorkingCopyCount) {
+  WriteDatabase("other");
+  Products.Add("part", "other/part").Place("car", "part.1", "part");
+  ReportOutOfReach({});
+  std::clock_t ticks = 0;
+  standin::SetLaunchListener([&](const standin::Launch&) { ticks += LetTimePass().Length(); });
+  TheManager.RefreshStatus(nullptr);
+  EXPECT_EQ(Client.Runs().size(), 4U);
+  EXPECT_GE(Ticks(TheManager.SVNTimings.StatusCheck), ticks);
+}
+
+TEST_F(DatabaseRefreshTimes, TheRedrawCountsIntoAttributingAlone) {
+  Products.Add("one", "wc/one");
+  ZRKECVSManager manager(*Products.At("one").Get());
+  const TimesAround times = WithSlowRedraw([&] { manager.RefreshStatus(nullptr); });
+  EXPECT_LE(Ticks(manager.SVNTimings.StatusCheck), times.Before);
+  EXPECT_LE(Ticks(manager.SVNTimings.XMLParsing), times.Before);
+  EXPECT_GE(Ticks(manager.SVNTimings.Attributing), times.Within);
+}
+
+TEST_F(DatabaseRefreshTimes, TheRunsForTextEntriesDoNotCountIntoAttributing) {
+  WriteEntries("old", entries::File(10, "part", "4", "bert"));
+  Products.Add("part", "old/part").Place("car", "part.1", "part");
+  const TimesAround text = WithSlowLaunch(L"status -v -u \"", [&] { TheManager.RefreshStatus(nullptr); });
+  EXPECT_GE(Ticks(TheManager.SVNTimings.StatusCheck), text.Within);
+  EXPECT_LE(Ticks(TheManager.SVNTimings.Attributing), text.Before + text.After);
+  const TimesAround xml =
+      WithSlowLaunch(L"status -v -u --xml \"", [&] { TheManager.RefreshStatus(nullptr); });
+  EXPECT_GE(Ticks(TheManager.SVNTimings.XMLParsing), xml.Within);
+  EXPECT_LE(Ticks(TheManager.SVNTimings.Attributing), xml.Before + xml.After);
+}
+
+TEST_F(DatabaseRefreshTimes, StartAnewWithEveryRefresh) {
+  TheManager.SVNTimings = {1e12, 1e12, 1e12};
+  TheManager.RefreshStatus(nullptr);
+  EXPECT_LT(TheManager.SVNTimings.StatusCheck, 1e12);
+  EXPECT_LT(TheManager.SVNTimings.XMLParsing, 1e12);
+  EXPECT_LT(TheManager.SVNTimings.Attributing, 1e12);
+}
+
+}  // namespace
