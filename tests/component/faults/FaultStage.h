@@ -7,6 +7,7 @@
 
 #include "ZRKCVSStatus.h"
 #include "ZRKICVSManager.h"
+#include "component/svn/DatabaseReports.h"
 #include "support/Assembly.h"
 #include "support/CapturedOutput.h"
 #include "support/DialogRecorder.h"
@@ -16,11 +17,12 @@
 
 namespace faults {
 
-// A product "car" whose document lies in a CVS or Subversion working copy, the interface to its manager,
-// and a record of what is written to the debugger and of the clients that are started.
+// A product "car" whose document lies in a working copy of CVS, or of Subversion with text entries or with a
+// database, the interface to its manager, and a record of what is written to the debugger and of the clients
+// that are started.
 class FaultStage {
 public:
-  enum class Kind { CVS, SVN };
+  enum class Kind { CVS, SVN, Database };
 
   explicit FaultStage(Kind kind);
   FaultStage(const FaultStage&) = delete;
@@ -52,12 +54,18 @@ public:
   static std::string StatusReport();
   // That it is locked by bert.
   static std::string XMLReport();
+  // That bert has taken anna's lock of this working copy, and what that alone knows: that anna holds it.
+  // The client names the document in either way, by its path from the folder and by its whole path.
+  std::string DatabaseReport() const;
+  std::string DatabaseReportWithoutRepository() const;
 
   ScriptedClient Clients;
   // What an operation filled.
   ZRKCVSStatus Record;
 
 private:
+  std::string OfBothPaths(reports::Entry entry) const;
+
   const Session session_;
   const CapturedOutput output_;
   const TemporaryFolder folder_;

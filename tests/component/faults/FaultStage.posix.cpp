@@ -16,6 +16,9 @@ FaultStage::FaultStage(Kind kind) {
   products_.Add("car", "wc/car.CATPart");
   if (kind == Kind::CVS) {
     WriteCVSFolder(folder_ / "wc", "/cvs/root", "wc");
+  } else if (kind == Kind::Database) {
+    WriteFile(folder_ / "wc/.svn/entries", "12\n");
+    WriteFile(folder_ / "wc/.svn/wc.db", "SQLite format 3");
   } else {
     WriteFile(folder_ / "wc/.svn/entries",
               entries::Format(10) + entries::File(10, "car.CATPart", "9", "bert"));
@@ -60,6 +63,25 @@ std::string FaultStage::XMLReport() {
   return "<?xml version=\"1.0\"?>\r\n<status>\r\n<entry\r\n   "
          "path=\"car.CATPart\">\r\n<repos-status>\r\n<lock>\r\n"
          "<owner>bert</owner>\r\n</lock>\r\n</repos-status>\r\n</entry>\r\n</status>\r\n";
+}
+
+std::string FaultStage::DatabaseReport() const {
+  const reports::Entry entry{
+      .Revision = "9", .Own = reports::Lock{"t1", "anna"}, .InRepository = reports::Lock{"t2", "bert"}};
+  return OfBothPaths(entry);
+}
+
+std::string FaultStage::DatabaseReportWithoutRepository() const {
+  return OfBothPaths({.Revision = "9", .Own = reports::Lock{"t1", "anna"}});
+}
+
+std::string FaultStage::OfBothPaths(reports::Entry entry) const {
+  std::vector<reports::Entry> entries;
+  for (const std::string& path : {std::string("car.CATPart"), Document()}) {
+    entry.Path = path;
+    entries.push_back(entry);
+  }
+  return reports::Report(entries);
 }
 
 bool AllClientsEnd() {

@@ -234,6 +234,85 @@ Operation UneditOfSVN() {
           &ExpectSVNAttributes<1>};
 }
 
+void ReportDatabase(FaultStage& stage) {
+  stage.Clients.When("status -v -u --xml").Out(stage.DatabaseReport());
+  stage.Clients.When("status -v --xml").Out(stage.DatabaseReportWithoutRepository());
+}
+
+Operation RefreshOfDatabase() {
+  return {"RefreshStatusOfDatabase",
+          FaultStage::Kind::Database,
+          {2},
+          0,
+          &ReportDatabase,
+          [](FaultStage& stage) {
+            stage.Manager().RefreshStatus(stage.Car());
+            return S_OK;
+          },
+          [](const FaultStage& stage, HRESULT, const Loss& loss) {
+            // A report that is lost is made good for by the working copy's own.
+            EXPECT_EQ(stage.Shown(),
+                      loss.Run == 0
+                          ? (StatusAttributes{"9", "Edit", "", "Locked by: \nanna\n-------------\n"})
+                          : (StatusAttributes{"9", "Locked", "", "Locked by: \nbert\n-------------\n"}));
+          }};
+}
+
+// The run with that number is the one whose report is read.
+template <int statusRun>
+void ExpectDatabaseAttributes(const FaultStage& stage, HRESULT result, const Loss& loss) {
+  EXPECT_EQ(result, S_OK);
+  EXPECT_EQ(stage.Shown(), loss.Run == statusRun ? (StatusAttributes{"9", "Edit", "", "anna\n"})
+                                                 : (StatusAttributes{"9", "Locked", "", "bert\n"}));
+}
+
+Operation EditOfDatabase() {
+  return {"EditOfDatabase",
+          FaultStage::Kind::Database,
+          {1, 1, 2},
+          0,
+          &ReportDatabase,
+          [](FaultStage& stage) { return stage.Manager().Edit(); },
+          &ExpectDatabaseAttributes<2>};
+}
+
+Operation UneditOfDatabase() {
+  return {"UneditOfDatabase",
+          FaultStage::Kind::Database,
+          {1, 2},
+          0,
+          &ReportDatabase,
+          [](FaultStage& stage) { return stage.Manager().Unedit(); },
+          &ExpectDatabaseAttributes<1>};
+}
+
+Operation DeleteOfDatabase() {
+  return {"SVNDeleteOfDatabase",
+          FaultStage::Kind::Database,
+          {2},
+          0,
+          [](FaultStage& stage) { stage.Clients.When("delete").Out("D  car.CATPart\r\n"); },
+          [](FaultStage& stage) { return stage.Manager().SVNDelete(stage.Document().c_str()); },
+          [](const FaultStage& stage, HRESULT result, const Loss&) {
+            EXPECT_EQ(result, S_OK);
+            EXPECT_TRUE(stage.Dialogs().empty());
+          }};
+}
+
+Operation QueryOfDatabase() {
+  return {"GetFileStatusOfDatabase",
+          FaultStage::Kind::Database,
+          {2},
+          0,
+          &ReportDatabase,
+          [](FaultStage& stage) { return stage.Manager().GetFileStatus(stage.Car(), stage.Record); },
+          [](const FaultStage& stage, HRESULT result, const Loss& loss) {
+            EXPECT_EQ(result, S_OK);
+            EXPECT_STREQ(stage.Record.WorkingRevision.ConvertToChar(), "9");
+            EXPECT_STREQ(stage.Record.LockOwner.ConvertToChar(), loss.Run == 0 ? "anna" : "bert");
+          }};
+}
+
 }  // namespace
 
 const std::vector<Operation>& Operations() {
@@ -249,7 +328,12 @@ const std::vector<Operation>& Operations() {
                                                  CVSRemove(),
                                                  SVNDelete(),
                                                  EditOfSVN(),
-                                                 UneditOfSVN()};
+                                                 UneditOfSVN(),
+                                                 RefreshOfDatabase(),
+                                                 EditOfDatabase(),
+                                                 UneditOfDatabase(),
+                                                 DeleteOfDatabase(),
+                                                 QueryOfDatabase()};
   return operations;
 }
 

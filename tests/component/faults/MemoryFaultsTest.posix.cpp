@@ -85,6 +85,12 @@ constexpr Call kCalls[] = {
     {"GetFileStatus", Kind::CVS, Query, S_OK},
     {"CVSRemove", Kind::CVS, RemoveFromCVS, E_FAIL},
     {"SVNDelete", Kind::SVN, DeleteFromSVN, E_FAIL},
+    {"RefreshOfDatabase", Kind::Database, Refresh, S_OK},
+    {"EditOfDatabase", Kind::Database, Edit, E_FAIL},
+    {"UneditOfDatabase", Kind::Database, Unedit, E_FAIL},
+    {"GetFileStatusOfDatabase", Kind::Database, Query, S_OK},
+    {"SVNDeleteOfDatabase", Kind::Database, DeleteFromSVN, E_FAIL},
+    {"MakingAManagerOfDatabase", Kind::Database, MakeManager, E_FAIL},
     {"GetStorageName", Kind::CVS, StorageName, S_OK},
     {"IsCVSable", Kind::CVS, MayBeVersioned, 0},
     {"MakingAManagerOfCVS", Kind::CVS, MakeManager, E_FAIL},
@@ -97,6 +103,7 @@ protected:
   static bool MakeWithFailureAfter(int successes) {
     const Call& call = GetParam();
     FaultStage stage(call.WorkingCopy);
+    stage.Clients.When("--xml").Out(stage.DatabaseReport());
     stage.Clients.When("status -v").Out(FaultStage::StatusReport());
     stage.Clients.When("-n edit").Out("wc/car.CATPart\tanna\r\n");
     WriteStatusAttributes(stage.Car(), {"1.3", "Edit", "", ""});
