@@ -1,6 +1,7 @@
 #include "call/CommandLine.h"
 
 #include <CLI/CLI.hpp>
+#include <memory>
 
 #include "call/ExitStatus.h"
 #include "commands/CommandTable.h"
@@ -10,63 +11,70 @@ namespace zrkhost {
 namespace {
 
 std::string Footer() {
-  return "With neither -c nor --commands, commands are read from standard input: with a prompt when it is a\n"
-         "terminal. The prompt tells what is wrong with a line and goes on.\n"
-         "\n"
-         "Commands (PATH is a product path such as car/axle.1, left out: the root; arguments may stand in\n"
-         "double quotes; # begins a comment):\n" +
+  return "Commands (PATH is such as car/axle.1; without it the root; help tells more):\n" +
          CommandsHelp() +
-         "\n"
-         "For remove and delete FILE is a full path, or is meant from the current folder.\n"
-         "refresh and status ask the manager of PATH; with --by-root that of the root.\n"
-         "\n"
-         "Exit status: 0 when every command gave result 0 or has none; 1 when a command gave another "
-         "result;\n"
-         "2 for a bad call, a wrong session, an unknown command or product, or a component library that\n"
-         "cannot be loaded. With 2 nothing was run.\n";
+         "Examples:\n"
+         "  zrkhost --folder wc/proj -c refresh\n"
+         "  zrkhost car.json -c \"edit car/axle.1\" --answer no\n"
+         "  zrkhost car.json --commands nightly.txt --report nightly.json\n"
+         "Exit status: 0 all is well; 1 a command gave another result; 2 nothing was run.\n";
 }
+
+// All of the help on one screen of 80 columns: each option is one line.
+class ShortHelp : public CLI::Formatter {
+public:
+  ShortHelp() { column_width(22); }
+
+  std::string make_usage(const CLI::App*, std::string) const override {
+    return "Usage: zrkhost SESSION.json [options]\n       zrkhost --folder DIR [options]\n";
+  }
+  std::string make_positionals(const CLI::App*) const override { return ""; }
+  std::string make_option_opts(const CLI::Option* option) const override {
+    return option->get_type_size() == 0 ? "" : " " + option->get_type_name();
+  }
+  std::string make_footer(const CLI::App* app) const override { return app->get_footer(); }
+};
 
 std::string NotEmpty(const std::string& value) {
   return value.empty() ? "must not be empty" : "";
+}
+
+std::string YesOrNo(const std::string& value) {
+  return value == "yes" || value == "no" ? "" : value + " is neither yes nor no";
 }
 
 void AddOptions(CLI::App& app, Options& options) {
   auto* session =
       app.add_option("SESSION", options.SessionFile, "Session file (JSON) with the product structure")
           ->check(NotEmpty);
-  auto* folder = app.add_option("--folder", options.Folder,
-                                "Make the product structure from the files of a working copy");
+  auto* folder =
+      app.add_option("--folder", options.Folder, "Make the products of the files of a working copy");
   folder->type_name("DIR")->check(NotEmpty)->excludes(session);
-  app.add_option("--root", options.Root,
-                 "File below DIR whose product is the root; default: the first by name")
+  app.add_option("--root", options.Root, "With --folder: the file whose product is the root")
       ->type_name("FILE")
       ->check(NotEmpty)
       ->needs(folder);
-  app.add_option("-c", options.Commands, "Run this console command; may be given several times")
+  app.add_option("-c", options.Commands, "Run this command; may be given several times")
       ->type_name("COMMAND")
       ->allow_extra_args(false);
   app.add_option("--commands", options.CommandFile,
-                 "Run the commands of FILE, one a line, after those of -c; - is standard input")
+                 "Run the commands of FILE, a line each; - is standard input")
       ->type_name("FILE")
       ->check(NotEmpty);
-  app.add_option("--answer", options.Answer,
-                 "Answer to every question dialog; default: ask on a terminal, else no")
+  app.add_option("--answer", options.Answer, "Answer every question so; else a terminal is asked, or no")
       ->type_name("yes|no")
-      ->check(CLI::IsMember({"yes", "no"}));
-  app.add_flag("--verbose", options.Verbose, "Print client launches and debugger messages on standard error");
-  app.add_option("--report", options.Report, "Write a JSON report when all commands have run")
+      ->check(YesOrNo);
+  app.add_flag("--verbose", options.Verbose, "Tell client runs and debugger messages on standard error");
+  app.add_option("--report", options.Report, "Write a JSON report in the end")
       ->type_name("FILE")
       ->check(NotEmpty);
-  app.add_option("--page", options.Page,
-                 "Write the product tree after the last command as an HTML page")
+  app.add_option("--page", options.Page, "Write the product tree as an HTML page in the end")
       ->type_name("FILE")
       ->check(NotEmpty);
-  app.add_option("--plugin", options.Plugin,
-                 "Component library to load; default: the one built or installed beside zrkhost")
+  app.add_option("--plugin", options.Plugin, "Component library; default: the one beside zrkhost")
       ->type_name("FILE")
       ->check(NotEmpty);
-  app.add_option("--clients", options.Clients,
-                 "Folder to append to PATH; default: that of the client adapters; none: PATH stays as it is")
+  app.add_option("--clients", options.Clients, "Folder to append to PATH; default: the client adapters'")
       ->type_name("DIR|none")
       ->check(NotEmpty);
 }
@@ -76,13 +84,15 @@ void AddOptions(CLI::App& app, Options& options) {
 std::optional<Options> ParseCommandLine(int argc, char** argv, int& status) {
   Options options;
   CLI::App app(
-      "Plays the CAD host for a version-control component library: builds a product structure, loads\n"
-      "the library and calls it.",
+      "Plays the CAD host: builds a product structure, loads the component library and\n"
+      "runs commands on it; without -c and --commands those of standard input.",
       "zrkhost");
   // A session file may begin with "/" on every platform.
   app.allow_windows_style_options(false);
   app.footer(Footer());
-  app.set_version_flag("--version", "zrkhost " ZRKHOST_VERSION);
+  app.formatter(std::make_shared<ShortHelp>());
+  app.set_help_flag("-h,--help", "Print this");
+  app.set_version_flag("--version", "zrkhost " ZRKHOST_VERSION, "Print the version");
   AddOptions(app, options);
 
   try {

@@ -14,8 +14,17 @@ Outcome RunTree(const CommandCall&) {
   return {.ShowTree = true};
 }
 
+// For the command alone: the program's own help is to fit a screen.
+std::string CommandsNotes() {
+  return "PATH is a product path such as car/axle.1; left out, it is the root.\n"
+         "FILE is a full path, or is meant from the current folder.\n"
+         "What holds blanks stands in double quotes; # begins a comment.\n"
+         "--by-root asks the manager of the root, not that of PATH.\n"
+         "--instance asks with the product itself, not with its reference.\n";
+}
+
 Outcome RunHelp(const CommandCall&) {
-  return {.Shown = CommandsHelp()};
+  return {.Shown = CommandsHelp() + CommandsNotes()};
 }
 
 Outcome RunQuit(const CommandCall&) {
@@ -27,19 +36,19 @@ constexpr std::array<CommandOption, 2> kStatusOptions = {
 constexpr auto kByRoot = std::span(kStatusOptions).first<1>();
 
 constexpr std::array<CommandKind, 13> kCommands = {{
-    {"tree", Takes::Nothing, {}, RunTree, "print the product tree with its attributes"},
-    {"refresh", Takes::Product, kByRoot, RunRefresh, "bring the tree at PATH up to date and print the tree"},
+    {"tree", Takes::Nothing, {}, RunTree, "print the product tree"},
+    {"refresh", Takes::Product, kByRoot, RunRefresh, "bring it up to date and print it"},
     {"status", Takes::Product, kStatusOptions, RunStatus, "ask the client about a document"},
-    {"edit", Takes::Product, {}, RunEdit, "take the product's document for editing"},
-    {"unedit", Takes::Product, {}, RunUnedit, "give the product's document back"},
+    {"edit", Takes::Product, {}, RunEdit, "take the document for editing"},
+    {"unedit", Takes::Product, {}, RunUnedit, "give it back"},
     {"remove", Takes::File, {}, RunRemove, "remove a file from CVS"},
-    {"delete", Takes::File, {}, RunDelete, "schedule a file for deletion from Subversion"},
-    {"commtime", Takes::Nothing, {}, RunCommTime, "print and reset the time spent waiting for CVS"},
-    {"storage", Takes::Product, {}, RunStorage, "print the full path of the product's document"},
-    {"cvsable", Takes::Product, {}, RunCVSable, "1 when it can be under version control, else 0"},
-    {"modifiable", Takes::Product, {}, RunModifiable, "1 when it may be modified, else 0"},
-    {"help", Takes::Nothing, {}, RunHelp, "print this list"},
-    {"quit", Takes::Nothing, {}, RunQuit, "end; commands after it are not run"},
+    {"delete", Takes::File, {}, RunDelete, "delete a file from Subversion"},
+    {"commtime", Takes::Nothing, {}, RunCommTime, "time spent waiting for CVS"},
+    {"storage", Takes::Product, {}, RunStorage, "full path of the document"},
+    {"cvsable", Takes::Product, {}, RunCVSable, "1: can be under version control"},
+    {"modifiable", Takes::Product, {}, RunModifiable, "1: may be modified"},
+    {"help", Takes::Nothing, {}, RunHelp, "print this list, and more"},
+    {"quit", Takes::Nothing, {}, RunQuit, "end; what follows is not run"},
 }};
 
 }  // namespace

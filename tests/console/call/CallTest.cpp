@@ -1,3 +1,4 @@
+#include "commands/CommandText.h"
 #include "console/ConsoleTest.h"
 #include "support/Files.h"
 
@@ -66,17 +67,25 @@ TEST_F(Call, RefusesAnAnswerThatIsNeitherYesNorNo) {
   ExpectRefused(Zrkhost({CarSession(), "--answer", "maybe"}), "maybe");
 }
 
-TEST_F(Call, PrintsItsVersionAndHelp) {
+TEST_F(Call, PrintsItsVersion) {
   const auto version = Zrkhost({"--version"});
   EXPECT_EQ(version.Status, 0);
   EXPECT_EQ(version.Output, "zrkhost " PROJECT_VERSION "\n");
+}
+
+TEST_F(Call, PrintsHelpThatFitsOneScreen) {
   const auto help = Zrkhost({"--help"});
   EXPECT_EQ(help.Status, 0);
-  for (const char* told : {"SESSION", "--folder", "--root", "-c ", "--commands", "--answer", "--verbose",
-                           "--report", "--page", "--plugin", "--clients", "refresh", "status", "unedit",
-                           "meant from the current folder", "Exit status"}) {
+  for (const char* told :
+       {"SESSION", "--folder", "--root", "-c ", "--commands", "--answer", "--verbose", "--report", "--page",
+        "--plugin", "--clients", "refresh", "status", "unedit", "Exit status"}) {
     EXPECT_THAT(help.Output, HasSubstr(told));
   }
+  EXPECT_THAT(help.Output, testing::ContainsRegex("Examples:\n  zrkhost .*\n  zrkhost .*\n  zrkhost "));
+  const auto lines = zrkhost::SplitLines(help.Output);
+  // One line stays for the prompt of the shell.
+  EXPECT_LT(lines.size(), 40u);
+  for (const auto& line : lines) EXPECT_LE(line.size(), 80u) << line;
 }
 
 TEST_F(Call, NamesTheSessionFileThePlaceAndWhatIsWrong) {
