@@ -1,5 +1,6 @@
 #include "console/ConsoleTest.h"
 
+#include "console/SessionSchema.h"
 #include "support/Files.h"
 #include "support/Platform.h"
 
@@ -8,6 +9,7 @@ std::filesystem::path ConsoleTest::Program() {
 }
 
 std::string ConsoleTest::Session(std::string_view json, const std::string& name) const {
+  ExpectSchemaTakesWhatZrkhostTakes(std::string(json));
   WriteFile(folder_ / name, json);
   return Path(name);
 }

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "base/CallError.h"
+#include "console/SessionSchema.h"
+#include "support/Files.h"
 #include "support/Platform.h"
 
 namespace {
@@ -15,8 +17,20 @@ using testing::StartsWith;
 
 const std::filesystem::path kFolder = ExecutableFolder().root_path() / "home" / "u";
 
+// What is taken fits the schema too.
 zrkhost::SessionDescription Parse(const std::string& text) {
-  return zrkhost::ParseSession(text, "car.json", kFolder);
+  auto session = zrkhost::ParseSession(text, "car.json", kFolder);
+  EXPECT_EQ(SchemaComplaint(text), "") << text;
+  return session;
+}
+
+// Whether a complaint is about what a schema can say: types, keys, and names that must be there.
+bool IsAboutForm(const std::string& complaint) {
+  for (const char* words : {"must be ", "must not be empty", "is missing", "is not a key known here",
+                            "a product needs a name", "a second time"}) {
+    if (complaint.find(words) != std::string::npos) return true;
+  }
+  return false;
 }
 
 // What is told about a session that is wrong.
@@ -24,6 +38,9 @@ std::string Complaint(const std::string& text) {
   try {
     Parse(text);
   } catch (const zrkhost::CallError& error) {
+    if (IsAboutForm(error.what())) {
+      EXPECT_NE(SchemaComplaint(text), "") << text;
+    }
     return error.what();
   }
   return "nothing";
@@ -315,6 +332,16 @@ TEST(SessionFile, RefusesATreeThatIsTooDeep) {
 
 TEST(SessionFile, TakesADeepTree) {
   EXPECT_NO_THROW(Parse(Chain(9'999, 1)));
+}
+
+// The session files that the fuzzer grows its own from.
+TEST(SessionFile, FitsTheSchemaInTheFuzzersCorpus) {
+  int count = 0;
+  for (const auto& file : std::filesystem::directory_iterator(ExecutableFolder() / "sessions")) {
+    ExpectSchemaTakesWhatZrkhostTakes(ReadFile(file.path()));
+    ++count;
+  }
+  EXPECT_GT(count, 0);
 }
 
 }  // namespace
