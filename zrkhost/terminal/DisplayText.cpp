@@ -5,6 +5,7 @@
 
 #include "base/Encoding.h"
 #include "base/Hexadecimal.h"
+#include "terminal/CharacterWidth.h"
 
 namespace zrkhost {
 
@@ -22,54 +23,13 @@ struct Range {
   char32_t Last;
 };
 
-template <std::size_t count>
-bool IsIn(const std::array<Range, count>& ranges, char32_t character) {
-  const auto range = std::lower_bound(ranges.begin(), ranges.end(), character,
-                                      [](const Range& entry, char32_t value) { return entry.Last < value; });
-  return range != ranges.end() && character >= range->First;
-}
-
 // Control characters, and those that end a line or turn the direction of writing.
-constexpr std::array<Range, 6> kUnsafe = {
-    {{0x00, 0x1F}, {0x7F, 0x9F}, {0x061C, 0x061C}, {0x200E, 0x200F}, {0x2028, 0x202E}, {0x2066, 0x2069}}};
-
-// Marks that stand on the character before them, and characters without any shape.
-constexpr std::array<Range, 16> kNoColumn = {{{0x0300, 0x036F},
-                                              {0x0483, 0x0489},
-                                              {0x0591, 0x05BD},
-                                              {0x0610, 0x061A},
-                                              {0x064B, 0x065F},
-                                              {0x0E31, 0x0E31},
-                                              {0x0E34, 0x0E3A},
-                                              {0x0E47, 0x0E4E},
-                                              {0x1AB0, 0x1AFF},
-                                              {0x1DC0, 0x1DFF},
-                                              {0x200B, 0x200D},
-                                              {0x20D0, 0x20FF},
-                                              {0xFE00, 0xFE0F},
-                                              {0xFE20, 0xFE2F},
-                                              {0xFEFF, 0xFEFF},
-                                              {0xE0100, 0xE01EF}}};
-
-// East Asian characters and pictures of full width.
-constexpr std::array<Range, 14> kTwoColumns = {{{0x1100, 0x115F},
-                                                {0x2E80, 0x303E},
-                                                {0x3041, 0x33FF},
-                                                {0x3400, 0x4DBF},
-                                                {0x4E00, 0xA4CF},
-                                                {0xA960, 0xA97F},
-                                                {0xAC00, 0xD7A3},
-                                                {0xF900, 0xFAFF},
-                                                {0xFE30, 0xFE6F},
-                                                {0xFF00, 0xFF60},
-                                                {0xFFE0, 0xFFE6},
-                                                {0x1F300, 0x1F64F},
-                                                {0x1F900, 0x1F9FF},
-                                                {0x20000, 0x3FFFD}}};
-
-int Columns(char32_t character) {
-  if (IsIn(kNoColumn, character)) return 0;
-  return IsIn(kTwoColumns, character) ? 2 : 1;
+bool IsUnsafe(char32_t character) {
+  constexpr std::array<Range, 6> kUnsafe = {
+      {{0x00, 0x1F}, {0x7F, 0x9F}, {0x061C, 0x061C}, {0x200E, 0x200F}, {0x2028, 0x202E}, {0x2066, 0x2069}}};
+  return std::any_of(kUnsafe.begin(), kUnsafe.end(), [character](const Range& range) {
+    return character >= range.First && character <= range.Last;
+  });
 }
 
 std::string Escape(char32_t character) {
@@ -97,7 +57,7 @@ std::string DisplayText(std::string_view text, LineBreaks lineBreaks) {
     const char32_t character = characters[i];
     if (keep && character == '\r' && i + 1 < characters.size() && characters[i + 1] == '\n') {
       // The line feed follows.
-    } else if (IsByte(character) || (IsIn(kUnsafe, character) && !(keep && character == '\n'))) {
+    } else if (IsByte(character) || (IsUnsafe(character) && !(keep && character == '\n'))) {
       const auto escape = Escape(character);
       shown.append(escape.begin(), escape.end());
     } else {
@@ -128,20 +88,19 @@ std::string OneLine(std::string_view text) {
 }
 
 int DisplayWidth(std::string_view text) {
-  int width = 0;
-  for (const char32_t character : CharactersFromUtf8(text)) width += Columns(character);
-  return width;
+  return CharacterWidth(CharactersFromUtf8(text));
 }
 
 std::string CutToWidth(std::string_view text, int width) {
-  if (DisplayWidth(text) <= width) return std::string(text);
-  if (width <= 0) return {};
   const auto characters = CharactersFromUtf8(text);
+  if (CharacterWidth(characters) <= width) return std::string(text);
+  if (width <= 0) return {};
   int used = 0;
   std::size_t end = 0;
-  // One column is the ellipsis's.
-  while (end < characters.size() && used + Columns(characters[end]) <= width - 1) {
-    used += Columns(characters[end++]);
+  for (; end < characters.size(); ++end) {
+    used += CharacterWidth({&characters[end], 1});
+    // One column is the ellipsis's.
+    if (used > width - 1) break;
   }
   return Utf8FromCharacters({characters.data(), end}) + "\u2026";
 }

@@ -3,8 +3,8 @@
 // Whether a file descriptor leads to a person's terminal, and what that terminal can do.
 namespace zrkhost {
 
-// For a program that was started without a standard error: what it opens later must not take that place and get
-// what is written there.
+// For a program that was started without a standard error: what it opens later must not take that place and
+// get what is written there.
 void HoldStandardError();
 
 bool IsTerminal(int descriptor);

@@ -60,6 +60,27 @@ TEST(DisplayWidth, CountsColumns) {
   EXPECT_EQ(DisplayWidth("\U0001F600"), 2);
 }
 
+TEST(DisplayWidth, CountsTwoForEastAsianCharactersAndEmoji) {
+  for (const char* wide : {"\u1100", "\uD55C", "\u3042", "\uFF21", "\u3001", "\u231A", "\u2B50", "\U0001F697",
+                           "\U0001F9F2", "\U0001FA9B", "\U0001F680", "\U00020000"}) {
+    EXPECT_EQ(DisplayWidth(wide), 2) << wide;
+  }
+}
+
+TEST(DisplayWidth, CountsNoneForMarksAndCharactersWithoutShape) {
+  for (const char* none : {"\u0301", "\u0483", "\u0E34", "\u05B0", "\u093C", "\u20D0", "\u200B", "\u200D",
+                           "\uFE0F", "\uFEFF", "\U000E0101"}) {
+    EXPECT_EQ(DisplayWidth(none), 0) << none;
+  }
+}
+
+TEST(DisplayWidth, CountsOneForAllOthers) {
+  for (const char* narrow : {"a", "\u00E9", "\u00AD", "\u0416", "\u03B1", "\u05D0", "\u0E01", "\u2764",
+                             "\uFF71", "\u2026", "\U0001D400"}) {
+    EXPECT_EQ(DisplayWidth(narrow), 1) << narrow;
+  }
+}
+
 TEST(CutToWidth, LeavesWhatFits) {
   EXPECT_EQ(CutToWidth("abc", 3), "abc");
   EXPECT_EQ(CutToWidth("", 0), "");
@@ -75,6 +96,7 @@ TEST(CutToWidth, EndsWithAnEllipsisWhatDoesNot) {
 TEST(CutToWidth, CutsNoCharacterInTwo) {
   EXPECT_EQ(CutToWidth("門門門", 4), "門…");
   EXPECT_EQ(CutToWidth("üüü", 2), "ü…");
+  EXPECT_EQ(CutToWidth("e\u0301e\u0301e\u0301", 2), "e\u0301…");
 }
 
 }  // namespace

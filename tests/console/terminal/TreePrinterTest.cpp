@@ -30,10 +30,11 @@ TEST(TreePrinter, ShowsTheProductsAloneWithoutAClass) {
 }
 
 TEST(TreePrinter, AlignsByColumnsOfTheScreen) {
-  EXPECT_EQ(PrintTree({{0, "門", {"x"}}, {0, "Tür", {"y"}}}, {"Status"}, {}),
+  EXPECT_EQ(PrintTree({{0, "門", {"x"}}, {0, "Tür", {"y"}}, {0, "\U0001F697", {"z"}}}, {"Status"}, {}),
             "Product  Status\n"
             "門       x\n"
-            "Tür      y\n");
+            "Tür      y\n"
+            "\U0001F697       z\n");
 }
 
 TEST(TreePrinter, KeepsAProductOnOneLine) {
