@@ -11,8 +11,7 @@ namespace zrkhost {
 namespace {
 
 std::string Footer() {
-  return "Commands (PATH is such as car/axle.1; without it the root; help tells more):\n" +
-         CommandsHelp() +
+  return "Commands (PATH is such as car/axle.1; without it the root; help tells more):\n" + CommandsHelp() +
          "Examples:\n"
          "  zrkhost --folder wc/proj -c refresh\n"
          "  zrkhost car.json -c \"edit car/axle.1\" --answer no\n"

@@ -5,10 +5,11 @@
 
 #include "base/CallError.h"
 #include "base/Encoding.h"
+#include "commands/CommandCompletion.h"
 #include "run/RefreshReason.h"
 #include "session/ProductFacts.h"
 #include "terminal/DisplayText.h"
-#include "terminal/StandardInput.h"
+#include "terminal/LineEditor.h"
 #include "terminal/Terminal.h"
 #include "terminal/TreePrinter.h"
 
@@ -30,10 +31,10 @@ void Console::RunAll(const std::vector<SourcedCommand>& commands) {
 }
 
 void Console::RunPrompt() {
+  LineEditor editor("zrkhost> ", [this](std::string_view line) { return CompleteCommand(line, session_); });
   std::string line;
   for (;;) {
-    std::cerr << "zrkhost> " << std::flush;
-    if (!ReadLine(line)) {
+    if (!editor.Read(line)) {
       std::cerr << std::endl;
       return;
     }
