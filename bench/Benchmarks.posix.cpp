@@ -4,6 +4,7 @@ const std::vector<Benchmark>& Benchmarks() {
   static const std::vector<Benchmark> benchmarks = {
       {"output", MeasureClientOutput}, {"status", MeasureStatusReport},     {"entries", MeasureEntriesFile},
       {"xml", MeasureXMLReport},       {"refresh", MeasureScriptedRefresh}, {"cvs", MeasureCVSRefresh},
+      {"page", MeasurePage},
   };
   return benchmarks;
 }

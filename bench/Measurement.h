@@ -51,3 +51,4 @@ Measurements MeasureEntriesFile();
 Measurements MeasureXMLReport();
 Measurements MeasureScriptedRefresh();
 Measurements MeasureCVSRefresh();
+Measurements MeasurePage();
