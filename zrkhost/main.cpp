@@ -3,6 +3,7 @@
 
 #include "base/CallError.h"
 #include "base/Encoding.h"
+#include "call/CheckHostCall.h"
 #include "call/CommandLine.h"
 #include "call/CommandSource.h"
 #include "call/ExitStatus.h"
@@ -124,6 +125,7 @@ int Run(const Options& options) {
 int main(int argc, char** argv) {
   HoldStandardError();
   try {
+    if (IsCheckHostCall(argc, argv)) return RunCheckHostCall(argc, argv);
     int status = 0;
     const auto options = ParseCommandLine(argc, argv, status);
     return options ? Run(*options) : status;

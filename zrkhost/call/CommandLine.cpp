@@ -25,7 +25,8 @@ public:
   ShortHelp() { column_width(22); }
 
   std::string make_usage(const CLI::App*, std::string) const override {
-    return "Usage: zrkhost SESSION.json [options]\n       zrkhost --folder DIR [options]\n";
+    return "Usage: zrkhost SESSION.json [options]\n       zrkhost --folder DIR [options]\n       zrkhost "
+           "check-host --help\n";
   }
   std::string make_positionals(const CLI::App*) const override { return ""; }
   std::string make_option_opts(const CLI::Option* option) const override {

@@ -6,13 +6,25 @@ namespace zrkhost {
 
 namespace fs = std::filesystem;
 
-fs::path DefaultPlugin() {
+namespace {
+
+fs::path LibraryBeside(const std::string& name) {
   const auto folder = ProgramFile().parent_path();
-  const auto beside = folder / PluginFileName();
+  const auto beside = folder / LibraryFileName(name);
   std::error_code error;
   if (fs::exists(beside, error)) return beside;
-  const auto installed = (folder / ".." / ZRKHOST_LIBRARY_FOLDER / PluginFileName()).lexically_normal();
+  const auto installed = (folder / ".." / ZRKHOST_LIBRARY_FOLDER / LibraryFileName(name)).lexically_normal();
   return fs::exists(installed, error) ? installed : beside;
+}
+
+}  // namespace
+
+fs::path DefaultPlugin() {
+  return LibraryBeside("ZRKCVSManager");
+}
+
+fs::path DefaultHostCheck() {
+  return LibraryBeside("ZRKHostCheck");
 }
 
 fs::path DefaultClients() {

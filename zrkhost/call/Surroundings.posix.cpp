@@ -9,8 +9,8 @@ std::filesystem::path ProgramFile() {
   return std::filesystem::read_symlink("/proc/self/exe");
 }
 
-const char* PluginFileName() {
-  return "libZRKCVSManager.so";
+std::string LibraryFileName(const std::string& name) {
+  return "lib" + name + ".so";
 }
 
 bool AppendToPath(const std::filesystem::path& folder) {

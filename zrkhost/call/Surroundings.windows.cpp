@@ -16,8 +16,8 @@ std::filesystem::path ProgramFile() {
   return name.data();
 }
 
-const char* PluginFileName() {
-  return "ZRKCVSManager.dll";
+std::string LibraryFileName(const std::string& name) {
+  return name + ".dll";
 }
 
 bool AppendToPath(const std::filesystem::path& folder) {
