@@ -1,6 +1,7 @@
 #include "plugin/Plugin.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <type_traits>
 
 #include "base/CallError.h"
@@ -20,15 +21,18 @@ Plugin::Plugin(const fs::path& file) {
   const auto library = LoadSharedLibrary(fs::absolute(file));
   if (!library.Handle) fail("cannot be loaded as a component library: " + Utf8FromNative(library.Error));
 
-  const auto bind = [&](auto& function, const char* name) {
-    function =
-        reinterpret_cast<std::remove_reference_t<decltype(function)>>(FindSymbol(library.Handle, name));
-    if (!function) fail(std::string("is not the component library: it does not export ") + name);
+  // A function is bound by the first of its names that the library exports.
+  const auto bind = [&](auto& function, std::initializer_list<const char*> names) {
+    void* found = nullptr;
+    for (const char* name : names) found = found ? found : FindSymbol(library.Handle, name);
+    function = reinterpret_cast<std::remove_reference_t<decltype(function)>>(found);
+    if (!function) fail(std::string("is not the component library: it does not export ") + *names.begin());
   };
-  bind(isCVSable_, "IsCVSable");
-  bind(isCVSModifiable_, "IsCVSModifiable");
-  bind(constructRecord_, "_ZN12ZRKCVSStatusC1Ev");
-  bind(destroyRecord_, "_ZN12ZRKCVSStatusD1Ev");
+  bind(isCVSable_, {"IsCVSable"});
+  bind(isCVSModifiable_, {"IsCVSModifiable"});
+  // As GCC and Clang name them, and as Microsoft's compiler does.
+  bind(constructRecord_, {"_ZN12ZRKCVSStatusC1Ev", "??0ZRKCVSStatus@@QEAA@XZ"});
+  bind(destroyRecord_, {"_ZN12ZRKCVSStatusD1Ev", "??1ZRKCVSStatus@@QEAA@XZ"});
 
   const auto entries = standin::DictionaryEntries();
   for (const char* interface : {"ZRKICVS", "ZRKICVSManager", "ZRKICVSModifiable"}) {
