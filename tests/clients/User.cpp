@@ -96,8 +96,10 @@ CommandResult User::Adapter(const std::string& program, const std::vector<std::s
 }
 
 void User::SignOn(const std::string& fileURL) const {
-  // The client keeps the name under which it has once changed something in a repository.
-  const CommandOptions options = {.Folder = {}, .Input = "", .Environment = environment_};
+  // The client keeps the name under which it has once changed something in a repository. Without a UTF-8
+  // character type it refuses names outside ASCII.
+  CommandOptions options = {.Folder = {}, .Input = "", .Environment = environment_};
+  options.Environment["LC_ALL"] = "C.UTF-8";
   RunCommandOrThrow({"svn", "--non-interactive", "--username", name_, "lock", fileURL}, options);
   RunCommandOrThrow({"svn", "--non-interactive", "unlock", fileURL}, options);
 }
