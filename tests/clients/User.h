@@ -48,6 +48,9 @@ public:
   // Adds a variable to those that the user's programs start with.
   void Set(const std::string& variable, const std::string& value) { environment_[variable] = value; }
 
+  // From here on the modes of files hold for the user's programs, also when it is root who runs the tests.
+  void ObeyFileModes();
+
   // Waits for the end of every process that has the user's home; false when one is there for long.
   bool WaitUntilNoProcessIsLeft() const;
 
@@ -55,6 +58,8 @@ private:
   std::string name_;
   std::filesystem::path home_;
   std::map<std::string, std::string> environment_;
+  // Stands before every call of zrkhost.
+  std::vector<std::string> starter_;
 };
 
 // The attributes of each product by its document's path below the folder, with "/"; null where the product
