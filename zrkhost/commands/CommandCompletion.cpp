@@ -103,10 +103,9 @@ Completion CompletePath(const Typing& typing, const HostSession& session) {
   Completion completion{typing.From, "", PathsFrom(typing.Last.Text, session)};
   const auto& choices = completion.Choices;
   if (choices.empty()) return completion;
-  const bool isOne = choices.size() == 1;
   const auto text = CommonBeginning(choices);
-  const bool quotes = typing.Last.Quoted || std::any_of(choices.begin(), choices.end(), NeedsQuotes);
-  completion.Word = quotes ? Quoted(text, isOne) : text;
+  const bool quotes = typing.Last.Quoted || NeedsQuotes(text);
+  completion.Word = quotes ? Quoted(text, choices.size() == 1) : text;
   return completion;
 }
 

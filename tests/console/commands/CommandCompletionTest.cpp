@@ -71,7 +71,8 @@ TEST_F(CommandCompletion, PutsInQuotesWhatHoldsBlanks) {
   EXPECT_EQ(Completed("edit \"car/my d"), "edit \"car/my door\"");
   EXPECT_EQ(Completed("edit \"car/my door\""), "edit \"car/my door/wheel\"");
   // What can go on without a blank or with one.
-  EXPECT_EQ(Completed("edit car/a"), "edit \"car/a");
+  EXPECT_EQ(Completed("edit car/a"), "edit car/a");
+  EXPECT_EQ(Completed("edit \"car/a"), "edit \"car/a");
   EXPECT_EQ(Completed("edit \"car/a "), "edit \"car/a \"\"b\"\"\"");
 }
 
