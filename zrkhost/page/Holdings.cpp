@@ -65,6 +65,7 @@ std::vector<Holder> HoldersOf(const std::vector<ProductRecord>& products) {
     holder.Files[file].Products.push_back(i);
   }
   std::vector<Holder> sorted;
+  sorted.reserve(holders.size());
   for (auto& [key, holder] : holders) sorted.push_back(std::move(holder));
   return sorted;
 }

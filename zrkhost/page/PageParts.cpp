@@ -118,6 +118,7 @@ std::vector<PageParts::StatusCount> PageParts::CountStatuses() const {
     ++counted[{Rank(status), status}];
   }
   std::vector<StatusCount> counts;
+  counts.reserve(counted.size());
   for (const auto& [key, products] : counted) counts.push_back({key.second, products});
   return counts;
 }
