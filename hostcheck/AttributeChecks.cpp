@@ -60,8 +60,8 @@ void CheckAttributes(Table& table, const Products& products, const HostFunctions
   if (!carrier.Class) missing = "the package ZRKCVS";
   table.RowUnless(missing, "ZRKIAttStatus: IsModifiable", [&](Expectations& expect) {
     const ZRKIAttStatus_var status(carrier.Class);
-    if (!expect(status, "the class has none")) return;
     const CATISpecObject_var node(products.front());
+    if (!expect(status, "the class has none") || !expect(node, "the product is no CATISpecObject")) return;
     const bool modifiable = status->IsModifiable(node) != 0;
     expect(modifiable == (status->IsModifiable(node) != 0), "a second request gives another answer");
   });

@@ -81,7 +81,9 @@ Products StoredOf(const Products& references) {
 Products CheckProducts(Table& table, const CATBaseUnknown_var& product, const HostFunctions& host) {
   Products products{product};
   table.Row("CATPrsWorkModeServices: what is below in work mode 1", [&](Expectations& expect) {
-    host.SetWorkMode(CATIProduct_var(product), 1);
+    const CATIProduct_var top(product);
+    if (!expect(top, "the object is no CATIProduct")) return;
+    host.SetWorkMode(top, 1);
     products = Below(product);
     for (const CATBaseUnknown_var& each : products) {
       expect(CATIProduct_var(each) && CATINavigateObject_var(each) && CATISpecObject_var(each),

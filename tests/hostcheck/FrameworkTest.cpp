@@ -14,6 +14,15 @@ TEST_F(FrameworkCheck, FindsAProductThatIsNoNode) {
   Check(product.Object()).ExpectFails("CATHandle: a cast asks the object", "it is no CATISpecObject");
 }
 
+TEST_F(FrameworkCheck, FindsAnObjectThatIsNoProductAndAsksNothingOfIt) {
+  struct Bare final : CATBaseUnknown {};
+  Bare object;
+  const CheckRows rows = Check(CATBaseUnknown_var(&object));
+  rows.ExpectFails("CATHandle: a cast asks the object", "the object is no CATIProduct");
+  rows.ExpectFails("CATPrsWorkModeServices: what is below in work mode 1", "the object is no CATIProduct");
+  rows.ExpectFails("ZRKIAttStatus: IsModifiable", "the product is no CATISpecObject");
+}
+
 TEST_F(FrameworkCheck, FindsAProductWithInterfacesThatItCannotHave) {
   class Nodes final : public OtherPart<CATIDOMNodeList> {
   public:
