@@ -5,6 +5,7 @@
 #include "CATIProduct.h"
 #include "ZRKCVSStatus.h"
 #include "ZRKICVSManager.h"
+#include "component/svn/DatabaseReports.h"
 #include "component/svn/SampleEntries.h"
 #include "core/HostPath.h"
 #include "support/Assembly.h"
@@ -34,6 +35,11 @@ protected:
   }
   std::string Document() const { return HostFolder() + "\\" + kName; }
   std::string HostFolder() const { return Folder.Host("w") + "\\" + kFolder; }
+
+  std::string Revision() const {
+    const auto attributes = ReadStatusAttributes(Products.At("part"));
+    return attributes ? attributes->Revision : "no instance";
+  }
 
   std::vector<std::string> Runs() const {
     std::vector<std::string> runs;
@@ -80,11 +86,26 @@ protected:
               entries::Format(10) + entries::Folder("12") + entries::File(10, kName, "9", "bert"));
     runFolder_ = HostFolder();
   }
+};
 
-  std::string Revision() const {
-    const auto attributes = ReadStatusAttributes(Products.At("part"));
-    return attributes ? attributes->Revision : "no instance";
+// The working copy's database is in the folder above.
+class DoubleByteNamesInADatabase : public DoubleByteNames {
+protected:
+  void SetUp() override {
+    DoubleByteNames::SetUp();
+    if (IsSkipped()) return;
+    WriteFile(Folder / "w" / ".svn" / "wc.db", "SQLite format 3");
+    runFolder_ = HostFolder();
+    // In XML both letters are UTF-8.
+    Client.When("--xml --non-interactive --ignore-externals " + Document())
+        .Out(reports::Report({{.Path = Folder.Host("w") + "\\\xE3\x82\xBD\\part \xE8\xA1\xA8"}}));
+    Client.When("--xml").Out(reports::Report({{.Path = "part \xE8\xA1\xA8"}}));
   }
+
+  static std::string Command(const std::string& command) { return command + " --non-interactive"; }
+  std::string StatusOfFile() const { return StatusOfFolder + " " + Document(); }
+
+  const std::string StatusOfFolder = "status -v -u --xml --non-interactive --ignore-externals";
 };
 
 using Texts = std::vector<std::string>;
@@ -94,9 +115,7 @@ using Texts = std::vector<std::string>;
 TEST_F(DoubleByteNamesInCVS, AreRefreshed) {
   Manager()->RefreshStatus(Products.At("part"));
   EXPECT_EQ(Runs(), (Texts{Command("status -v"), Command("-n edit")}));
-  const auto attributes = ReadStatusAttributes(Products.At("part"));
-  ASSERT_TRUE(attributes);
-  EXPECT_EQ(attributes->Revision, "1.4");
+  EXPECT_EQ(Revision(), "1.4");
 }
 
 TEST_F(DoubleByteNamesInCVS, AreQueried) {
@@ -149,4 +168,36 @@ TEST_F(DoubleByteNamesInSubversion, AreUnlocked) {
 TEST_F(DoubleByteNamesInSubversion, AreDeleted) {
   EXPECT_EQ(Manager()->SVNDelete(Document().c_str()), 0);
   EXPECT_EQ(Runs(), Texts{"delete -mzq --force " + Document()});
+}
+
+TEST_F(DoubleByteNamesInADatabase, AreRefreshed) {
+  Manager()->RefreshStatus(Products.At("part"));
+  EXPECT_EQ(Runs(), Texts{StatusOfFolder});
+  EXPECT_EQ(Revision(), "9");
+}
+
+TEST_F(DoubleByteNamesInADatabase, AreQueried) {
+  ZRKCVSStatus record;
+  Manager()->GetFileStatus(CATIProduct_var(Products.At("part")), record);
+  EXPECT_EQ(Runs(), Texts{StatusOfFile()});
+  EXPECT_EQ(record.WorkingRevision, "9");
+  EXPECT_EQ(record.File, kName);
+}
+
+TEST_F(DoubleByteNamesInADatabase, AreLocked) {
+  EXPECT_EQ(Manager()->Edit(), 0);
+  EXPECT_EQ(Runs(), (Texts{Command("update") + " " + Document(), Command("lock") + " " + Document(),
+                           StatusOfFile()}));
+  EXPECT_EQ(Revision(), "9");
+}
+
+TEST_F(DoubleByteNamesInADatabase, AreUnlocked) {
+  EXPECT_EQ(Manager()->Unedit(), 0);
+  EXPECT_EQ(Runs(), (Texts{Command("unlock") + " " + Document(), StatusOfFile()}));
+  EXPECT_EQ(Revision(), "9");
+}
+
+TEST_F(DoubleByteNamesInADatabase, AreDeleted) {
+  EXPECT_EQ(Manager()->SVNDelete(Document().c_str()), 0);
+  EXPECT_EQ(Runs(), Texts{Command("delete --force") + " " + Document()});
 }
