@@ -26,7 +26,7 @@ public:
 
   std::string make_usage(const CLI::App*, std::string) const override {
     return "Usage: zrkhost SESSION.json [options]\n       zrkhost --folder DIR [options]\n       zrkhost "
-           "check-host [PATH]\n";
+           "check-host [PATH] [options]\n";
   }
   std::string make_positionals(const CLI::App*) const override { return ""; }
   std::string make_option_opts(const CLI::Option* option) const override {
