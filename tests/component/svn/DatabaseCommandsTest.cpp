@@ -6,6 +6,7 @@
 #include "DatabaseStage.h"
 #include "ZRKICVSManager.h"
 #include "manager/ZRKECVSManager.h"
+#include "support/JapaneseCodePage.h"
 #include "support/Launches.h"
 #include "svn/DatabaseClient.h"
 #include "text/NativeText.h"
@@ -127,24 +128,6 @@ TEST_F(DatabaseCommands, OfARefreshPassNoAt) {
   EXPECT_EQ(Shown("wheel")->Revision, "5");
 }
 
-TEST_F(DatabaseCommands, KeepNamesOfAnyAlphabetAndShowWhatTheReportSaysOfThem) {
-  const std::filesystem::path name(u8"wc/R\u00E4der/Tr\u00E4ger.CATPart");
-  Products.Add("wheel", name);
-  Report({{.Path = "Tr\xC3\xA4ger.CATPart",
-           .Revision = "5",
-           .InRepository = reports::Lock{"t", "J\xC3\xBCrgen"}}});
-  const ZRKICVSManager_var manager = Products.At("wheel");
-  manager->RefreshStatus(nullptr);
-  EXPECT_EQ(Shown("wheel"), (StatusAttributes{"5", "Locked", "",
-                                              "Locked by: \n" + standin::NativeFromWide(L"J\u00FCrgen") +
-                                                  "\n-------------\n"}));
-  manager->Unedit();
-  EXPECT_EQ(Shown("wheel"),
-            (StatusAttributes{"5", "Locked", "", standin::NativeFromWide(L"J\u00FCrgen") + "\n"}));
-  EXPECT_EQ(Launched.All().at(1).CommandLine,
-            L" unlock --non-interactive \"" + Wide(Folder.Host(name)) + L"\"");
-}
-
 // How an argument is quoted, so that a program gets it back.
 
 std::string Command(const char* command, const std::string& path) {
@@ -172,6 +155,15 @@ TEST(DatabaseCommand, DoublesBackslashesAtTheEnd) {
   EXPECT_EQ(Command("delete", "C:\\w\\"), " delete --non-interactive \"C:\\w\\\\\"");
   EXPECT_EQ(Command("delete", "C:\\\\"), " delete --non-interactive \"C:\\\\\\\\\"");
   EXPECT_EQ(Command("delete", "\\"), " delete --non-interactive \"\\\\\"");
+}
+
+// In code page 932 U+8868 is 95 5C, and 5C alone is the backslash.
+TEST(DatabaseCommand, TakesNoPartOfALetterForABackslashOrAnAt) {
+  const JapaneseCodePage codePage;
+  if (!JapaneseCodePage::IsActive()) GTEST_SKIP() << "the system's code page is not 932";
+  EXPECT_EQ(Command("lock", "C:\\\x95\\"), " lock --non-interactive \"C:\\\x95\\\"");
+  EXPECT_EQ(Command("lock", "C:\\\x95\\\\"), " lock --non-interactive \"C:\\\x95\\\\\\\"");
+  EXPECT_EQ(Command("lock", "C:\\\x83@"), " lock --non-interactive \"C:\\\x83@\"");
 }
 
 TEST(LaunchFolder, OfADriveOrTheRootHasAClosingBackslashAndNoOther) {
