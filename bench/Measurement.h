@@ -51,4 +51,5 @@ Measurements MeasureEntriesFile();
 Measurements MeasureXMLReport();
 Measurements MeasureScriptedRefresh();
 Measurements MeasureCVSRefresh();
+Measurements MeasureSVNRefresh();
 Measurements MeasurePage();
