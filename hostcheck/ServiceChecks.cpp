@@ -15,20 +15,29 @@ namespace fs = std::filesystem;
 
 constexpr fs::perms kExecutable = fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec;
 
-// A program in one of the folders of PATH; empty when there is none.
+fs::path ProgramIn(const fs::path& folder) {
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+    std::error_code error;
+    const bool runs = (entry.status(error).permissions() & kExecutable) != fs::perms::none;
+    if (entry.is_regular_file(error) && runs) return entry.path();
+  }
+  return {};
+}
+
+// A program in one of the folders of PATH; empty when there is none. Folders that cannot be read are left
+// out.
 fs::path ProgramOnPath() {
   const char* const value = std::getenv("PATH");
   std::istringstream folders(value ? value : "");
   const char separator = fs::path::preferred_separator == '\\' ? ';' : ':';
-  std::error_code error;
-  for (std::string folder; std::getline(folders, folder, separator);) {
-    if (folder.empty()) continue;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
-      const bool runs = (entry.status(error).permissions() & kExecutable) != fs::perms::none;
-      if (entry.is_regular_file(error) && runs) return entry.path();
+  fs::path program;
+  for (std::string folder; program.empty() && std::getline(folders, folder, separator);) {
+    try {
+      program = ProgramIn(CATUnicodeString(folder.c_str()).ConvertToWideChar());
+    } catch (const fs::filesystem_error&) {
     }
   }
-  return {};
+  return program;
 }
 
 }  // namespace
