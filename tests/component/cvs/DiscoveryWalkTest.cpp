@@ -19,9 +19,9 @@ using zrk::cvs::WorkingCopy;
 namespace {
 
 // Remembers the interface that children are asked for by, and has none.
-class RecordingParent final : public standin::OneInterface<CATIDescendants> {
+class RecordingDescendants final : public standin::OneInterface<CATIDescendants> {
 public:
-  explicit RecordingParent(std::vector<std::string>& asked) : asked_(asked) {}
+  explicit RecordingDescendants(std::vector<std::string>& asked) : asked_(asked) {}
   void GetChildren(const char* interfaceName, CATListValCATISpecObject_var&) override {
     asked_.emplace_back(interfaceName);
   }
@@ -30,24 +30,25 @@ private:
   std::vector<std::string>& asked_;
 };
 
-// A reference product as it is, but for its children.
-class RecordingProduct final : public CATIProduct {
+// A reference product as it is, but for its descendants, or without any.
+class Parent final : public CATIProduct {
 public:
-  RecordingProduct(const CATBaseUnknown_var& product, std::vector<std::string>& asked)
-      : product_(product), parent_(CATBaseUnknown_var::Adopt(new RecordingParent(asked))) {}
+  Parent(const CATBaseUnknown_var& product, const CATBaseUnknown_var& descendants)
+      : product_(product), descendants_(descendants) {}
   CATBaseUnknown* QueryInterface(const CATIID& interfaceId) override {
     if (interfaceId == CATIProduct::ClassId()) {
       AddRef();
       return this;
     }
-    return (interfaceId == CATIDescendants::ClassId() ? parent_ : product_)->QueryInterface(interfaceId);
+    if (interfaceId != CATIDescendants::ClassId()) return product_->QueryInterface(interfaceId);
+    return descendants_ ? descendants_->QueryInterface(interfaceId) : nullptr;
   }
   HRESULT TestReference() override { return S_OK; }
   CATIProduct_var GetReferenceProduct() override { return CATIProduct_var(this); }
 
 private:
   CATBaseUnknown_var product_;
-  CATBaseUnknown_var parent_;
+  CATBaseUnknown_var descendants_;
 };
 
 class DiscoveryWalk : public testing::Test {
@@ -67,8 +68,16 @@ protected:
 TEST_F(DiscoveryWalk, AsksForTheChildrenThatAreProducts) {
   assembly_.Add("car", "plain/car");
   std::vector<std::string> asked;
-  From(CATIProduct_var::Adopt(new RecordingProduct(assembly_.At("car"), asked)));
+  const auto descendants = CATBaseUnknown_var::Adopt(new RecordingDescendants(asked));
+  From(CATIProduct_var::Adopt(new Parent(assembly_.At("car"), descendants)));
   EXPECT_THAT(asked, ElementsAre("CATIProduct"));
+}
+
+TEST_F(DiscoveryWalk, EndsAtAProductThatCannotNameItsChildren) {
+  WriteCVSFolder(folder_ / "proj", "/cvs/root", "proj");
+  assembly_.Add("car", "plain/car").Add("part", "proj/a").Place("car", "p", "part");
+  const WorkingCopy found = From(CATIProduct_var::Adopt(new Parent(assembly_.At("car"), nullptr)));
+  EXPECT_STREQ(found.CVSRoot.ConvertToChar(), "");
 }
 
 TEST_F(DiscoveryWalk, LeavesTheWorkModeOfEveryProductAsItIs) {
