@@ -69,18 +69,18 @@ void ReadWorkingCopy(const CATUnicodeString& report, std::size_t files) {
 Measurement MeasureWorkingCopyReport() {
   constexpr int kFiles = 100'000;
   const CATUnicodeString large = MakeWorkingCopyReport(kFiles).c_str();
-  const CATUnicodeString small = MakeWorkingCopyReport(kFiles / 10).c_str();
+  const CATUnicodeString small = MakeWorkingCopyReport(kFiles / 2).c_str();
   return Growth(
-      "Report of a working copy with a database, 10,000 to 100,000 files", 5, 10,
-      [&] { ReadWorkingCopy(small, kFiles / 10); }, [&] { ReadWorkingCopy(large, kFiles); }, 1.1);
+      "Report of a working copy with a database, 50,000 to 100,000 files", 5, 2,
+      [&] { ReadWorkingCopy(small, kFiles / 2); }, [&] { ReadWorkingCopy(large, kFiles); }, 1.1);
 }
 
 Measurement MeasureNestedReport() {
   constexpr int kLevels = 100'000;
   const CATUnicodeString large = MakeNestedReport(kLevels).c_str();
-  const CATUnicodeString small = MakeNestedReport(kLevels / 10).c_str();
+  const CATUnicodeString small = MakeNestedReport(kLevels / 2).c_str();
   return Growth(
-      "The same of entries that stand in one another, 10,000 to 100,000 levels", 5, 10,
+      "The same of entries that stand in one another, 50,000 to 100,000 levels", 5, 2,
       [&] { ReadWorkingCopy(small, 0); }, [&] { ReadWorkingCopy(large, 0); }, 1.1);
 }
 
