@@ -77,14 +77,15 @@ TEST_F(DatabaseTree, ReadsAReportWithWarningsOnBothChannelsAroundIt) {
   EXPECT_EQ(Shown("car")->Revision, "3");
 }
 
-TEST_F(DatabaseTree, ReadsOnBehindTheWordsOfTheClientsQuestion) {
+TEST_F(DatabaseTree, AsksAgainWhenTheWordsOfTheClientsQuestionEndTheReading) {
   BuildCar();
-  Report({LockedElsewhere("car.CATProduct", {"t", "ben", "to revert changes of Monday"}),
-          {.Path = "sub/wheel.CATPart", .Revision = "4"}});
+  const Entry car =
+      LockedElsewhere("car.CATProduct", {"t", "ben", "to revert changes of Monday" + std::string(5000, '.')});
+  Client.When("-u").Out(reports::Report({car}));
+  Client.When("status").Out(reports::Report({{.Path = "car.CATProduct", .Revision = "3"}}));
   Refresh();
-  EXPECT_EQ(Client.Runs().size(), 1U);
-  EXPECT_EQ(Shown("car")->Comment, "Locked by: \nben\n-------------\nto revert changes of Monday");
-  EXPECT_EQ(Shown("car/axle.1/wheel.1")->Revision, "4");
+  EXPECT_EQ(Arguments(), (Lists{StatusOfBoth, StatusOfWorkingCopy}));
+  EXPECT_EQ(Shown("car"), (StatusAttributes{"3", "ReadOnly", "", ""}));
 }
 
 TEST_F(DatabaseTree, WritesOntoEachInstanceAndNotOntoItsReference) {
