@@ -127,6 +127,8 @@ bool LineEditor::Read(std::string& line) {
     return ReadLine(line);
   }
   const UnicodeLocale locale;
+  // The library itself would do so only behind the prompt, and what is typed in between would show twice.
+  el_set(editor_->Edit, EL_PREP_TERM, 1);
   int count = 0;
   const char* text = el_gets(editor_->Edit, &count);
   if (!text || count <= 0) return false;
