@@ -117,7 +117,7 @@ TEST_F(DatabaseQuery, CountsIntoTheCommunicationTimeAndNothingElse) {
   Report({});
   Manager().CommTime = 1'000'000;
   Manager().SVNTimings = {1, 2, 3};
-  const TimesAround times = WithSlowLaunch(L"status", [&] { Asked(Manager(), "car"); });
+  const SlowTimes times = WithSlowLaunches(L"status", [&] { Asked(Manager(), "car"); });
   EXPECT_GE(Manager().CommTime, 1'000'000 + times.Within);
   EXPECT_EQ(Manager().SVNTimings.StatusCheck, 1);
   EXPECT_EQ(Manager().SVNTimings.XMLParsing, 2);

@@ -4,7 +4,6 @@
 
 #include "ZRKICVSManager.h"
 #include "attributes/AttributeDictionary.h"
-#include "component/manager/SlowStep.h"
 #include "component/svn/DatabaseStage.h"
 #include "manager/ZRKECVSManager.h"
 #include "support/CapturedOutput.h"
@@ -130,83 +129,6 @@ TEST_F(DatabaseRefresh, WithoutAnAttributeDictionaryStillRedraws) {
   Manager()->RefreshStatus(nullptr);
   EXPECT_EQ(Client.Runs().size(), 1U);
   EXPECT_EQ(Redrawn.Paths(), (Paths{"car", "car/wheel.1"}));
-}
-
-// Where its time went.
-
-class DatabaseRefreshTimes : public DatabaseRefresh {
-protected:
-  ~DatabaseRefreshTimes() override {
-    standin::SetLaunchListener({});
-    standin::SetRedrawListener({});
-  }
-
-  static std::wstring Line(const wchar_t* label, double ticks) {
-    const CATUnicodeString seconds = CATUnicodeString::BuildFromNum(ticks / 1000.0, "%g");
-    return std::wstring(L"\n") + label + L": " + seconds.ConvertToWideChar() + L" sec\n";
-  }
-  static std::clock_t Ticks(double time) { return static_cast<std::clock_t>(time); }
-
-  ZRKECVSManager TheManager{*Products.At("car").Get()};
-};
-
-TEST_F(DatabaseRefreshTimes, AreThreeMessagesInTheOrderOfTheSteps) {
-  const DebugMessages messages;
-  standin::SetLaunchListener([](const standin::Launch&) { LetTimePass(); });
-  standin::SetRedrawListener([](const CATBaseUnknown_var&) { LetTimePass(); });
-  TheManager.RefreshStatus(nullptr);
-  EXPECT_EQ(messages.All(),
-            (std::vector<std::wstring>{
-                Line(L"SVN status check time", TheManager.SVNTimings.StatusCheck),
-                Line(L"XML Parsing time", TheManager.SVNTimings.XMLParsing),
-                Line(L"Refreshing status time (attributing)", TheManager.SVNTimings.Attributing)}));
-}
-
-TEST_F(DatabaseRefreshTimes, TheRunsCountIntoTheStatusCheckAlone) {
-  const TimesAround times = WithSlowLaunch(L"status", [&] { TheManager.RefreshStatus(nullptr); });
-  EXPECT_GE(Ticks(TheManager.SVNTimings.StatusCheck), times.Within);
-  EXPECT_LE(Ticks(TheManager.SVNTimings.XMLParsing), times.After);
-  EXPECT_LE(Ticks(TheManager.SVNTimings.Attributing), times.After);
-}
-
-TEST_F(DatabaseRefreshTimes, BothRunsOfEachWorkingCopyCount) {
-  WriteDatabase("other");
-  Products.Add("part", "other/part").Place("car", "part.1", "part");
-  ReportOutOfReach({});
-  std::clock_t ticks = 0;
-  standin::SetLaunchListener([&](const standin::Launch&) { ticks += LetTimePass().Length(); });
-  TheManager.RefreshStatus(nullptr);
-  EXPECT_EQ(Client.Runs().size(), 4U);
-  EXPECT_GE(Ticks(TheManager.SVNTimings.StatusCheck), ticks);
-}
-
-TEST_F(DatabaseRefreshTimes, TheRedrawCountsIntoAttributingAlone) {
-  Products.Add("one", "wc/one");
-  ZRKECVSManager manager(*Products.At("one").Get());
-  const TimesAround times = WithSlowRedraw([&] { manager.RefreshStatus(nullptr); });
-  EXPECT_LE(Ticks(manager.SVNTimings.StatusCheck), times.Before);
-  EXPECT_LE(Ticks(manager.SVNTimings.XMLParsing), times.Before);
-  EXPECT_GE(Ticks(manager.SVNTimings.Attributing), times.Within);
-}
-
-TEST_F(DatabaseRefreshTimes, TheRunsForTextEntriesDoNotCountIntoAttributing) {
-  WriteEntries("old", entries::File(10, "part", "4", "bert"));
-  Products.Add("part", "old/part").Place("car", "part.1", "part");
-  const TimesAround text = WithSlowLaunch(L"status -v -u \"", [&] { TheManager.RefreshStatus(nullptr); });
-  EXPECT_GE(Ticks(TheManager.SVNTimings.StatusCheck), text.Within);
-  EXPECT_LE(Ticks(TheManager.SVNTimings.Attributing), text.Before + text.After);
-  const TimesAround xml =
-      WithSlowLaunch(L"status -v -u --xml \"", [&] { TheManager.RefreshStatus(nullptr); });
-  EXPECT_GE(Ticks(TheManager.SVNTimings.XMLParsing), xml.Within);
-  EXPECT_LE(Ticks(TheManager.SVNTimings.Attributing), xml.Before + xml.After);
-}
-
-TEST_F(DatabaseRefreshTimes, StartAnewWithEveryRefresh) {
-  TheManager.SVNTimings = {1e12, 1e12, 1e12};
-  TheManager.RefreshStatus(nullptr);
-  EXPECT_LT(TheManager.SVNTimings.StatusCheck, 1e12);
-  EXPECT_LT(TheManager.SVNTimings.XMLParsing, 1e12);
-  EXPECT_LT(TheManager.SVNTimings.Attributing, 1e12);
 }
 
 }  // namespace

@@ -1,11 +1,17 @@
-// What the time of filing a report counts into.
+// What the time of filing a report and of reading an entries file counts into.
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
+#include <filesystem>
+#include <fstream>
 #include <string>
+#include <thread>
 
 #include "component/faults/MemoryFaults.h"
 #include "component/manager/CVSStage.h"
+#include "component/manager/SlowStep.h"
+#include "component/svn/SVNStage.h"
 #include "support/CapturedOutput.h"
 #include "support/DebugMessages.h"
 #include "windows/WindowsControl.h"
@@ -25,9 +31,11 @@ double Seconds(const std::wstring& message) {
   return std::stod(message.substr(message.find(L": ") + 2));
 }
 
+class RefreshTimesOfEntries : public SVNStage {};
+
 }  // namespace
 
-TEST(TheTimeOfFiling, OfTheStatusReportCountsIntoNoneOfTheTimes) {
+TEST(RefreshTimesOfFiling, CountIntoNoneOfTheMessages) {
   CVSStage stage;
   stage.Products.Add("car", "proj/car");
   const std::string block = zrk::sample::StatusBlock("proj/car", "1.1") + std::string(77'777, 'x');
@@ -43,4 +51,26 @@ TEST(TheTimeOfFiling, OfTheStatusReportCountsIntoNoneOfTheTimes) {
   for (const std::wstring& message : messages.All()) {
     EXPECT_LT(Seconds(message), 3600.0) << std::string(message.begin(), message.end());
   }
+}
+
+// The entries file is a pipe here that takes its time.
+TEST_F(RefreshTimesOfEntries, CountIntoTheStatusCheck) {
+  Products.Add("wheel", "wc/wheel.CATPart");
+  WriteEntries("wc", "");
+  ZRKECVSManager manager(*Products.At("wheel").Get());
+  const std::filesystem::path pipe = Folder / "wc/.svn/entries";
+  std::filesystem::remove(pipe);
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+
+  std::clock_t reading = 0;
+  std::thread writer([&] {
+    // Open once the reader has opened it too.
+    std::ofstream entriesFile(pipe);
+    reading = LetTimePass();
+    entriesFile << entries::Format(10) << entries::File(10, "wheel.CATPart", "9", "bert");
+  });
+  manager.RefreshStatus(nullptr);
+  writer.join();
+  EXPECT_GE(manager.SVNTimings.StatusCheck, static_cast<double>(reading));
+  EXPECT_EQ(ReadStatusAttributes(Products.At("wheel"))->Revision, "9");
 }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <ctime>
 #include <functional>
 #include <string>
@@ -9,59 +7,55 @@
 #include "product/ProductModel.h"
 #include "windows/LaunchLog.h"
 
-// What the clocks of a refresh measure, shown by a step that is made to take longer than all others. All is
+// What the clocks of a refresh measure, shown by steps that are made to take longer than all others. All is
 // read from the clock that the component reads, so that what it measured is never more than what passed
 // around it here and never less than what passed within it, however busy the machine is.
 
-struct Stretch {
-  std::clock_t Begin;
-  std::clock_t End;
-  std::clock_t Length() const { return End - Begin; }
-};
-
-inline Stretch LetTimePass() {
+// Gives the ticks that passed.
+inline std::clock_t LetTimePass() {
   constexpr std::clock_t ticks = 100;
   const std::clock_t begin = std::clock();
   std::clock_t end = begin;
   while (end - begin < ticks) end = std::clock();
-  return {begin, end};
+  return end - begin;
 }
 
-// Ticks that a call took before, in and after its slow step.
-struct TimesAround {
-  std::clock_t Before;
-  std::clock_t Within;
-  std::clock_t After;
+// Ticks that a call took, in its slow steps and in all else.
+struct SlowTimes {
+  int Steps = 0;
+  std::clock_t Within = 0;
+  std::clock_t Outside = 0;
 };
 
 namespace slow_step {
 
-inline TimesAround Measure(const Stretch& step, const std::function<void()>& call) {
+inline SlowTimes Measure(SlowTimes& times, const std::function<void()>& call) {
   const std::clock_t begin = std::clock();
   call();
-  const std::clock_t end = std::clock();
-  EXPECT_GT(step.Length(), 0) << "the step was not made";
-  return {step.Begin - begin, step.Length(), end - step.End};
+  times.Outside = std::clock() - begin - times.Within;
+  standin::SetLaunchListener({});
+  standin::SetRedrawListener({});
+  return times;
+}
+
+inline void Take(SlowTimes& times) {
+  ++times.Steps;
+  times.Within += LetTimePass();
 }
 
 }  // namespace slow_step
 
-// The step is the launch, of which there is one, whose command line holds the text.
-inline TimesAround WithSlowLaunch(const wchar_t* command, const std::function<void()>& call) {
-  Stretch step{};
+// The steps are the launches whose command line holds the text.
+inline SlowTimes WithSlowLaunches(const std::wstring& command, const std::function<void()>& call) {
+  SlowTimes times;
   standin::SetLaunchListener([&](const standin::Launch& launch) {
-    if (launch.CommandLine.find(command) != std::wstring::npos) step = LetTimePass();
+    if (launch.CommandLine.find(command) != std::wstring::npos) slow_step::Take(times);
   });
-  const TimesAround times = slow_step::Measure(step, call);
-  standin::SetLaunchListener({});
-  return times;
+  return slow_step::Measure(times, call);
 }
 
-// The step is the redraw of the one product that is redrawn.
-inline TimesAround WithSlowRedraw(const std::function<void()>& call) {
-  Stretch step{};
-  standin::SetRedrawListener([&](const CATBaseUnknown_var&) { step = LetTimePass(); });
-  const TimesAround times = slow_step::Measure(step, call);
-  standin::SetRedrawListener({});
-  return times;
+inline SlowTimes WithSlowRedraws(const std::function<void()>& call) {
+  SlowTimes times;
+  standin::SetRedrawListener([&](const CATBaseUnknown_var&) { slow_step::Take(times); });
+  return slow_step::Measure(times, call);
 }
