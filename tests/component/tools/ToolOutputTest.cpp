@@ -85,15 +85,6 @@ TEST(ToolOutput, EachChunkOf4096BytesIsCutAtItsFirstZero) {
   EXPECT_EQ(tool.Run(), expected);
 }
 
-TEST(ToolOutput, AChunkIsCutAtItsFirstZeroAndTheNextOneFollows) {
-  // The client writes a whole chunk in one piece, so it is read as one.
-  std::string bytes = "kept" + std::string(kChunk - 4, 'x') + "next";
-  bytes[4] = '\0';
-  ToolRunner tool;
-  tool.Client.Otherwise().Out(bytes);
-  EXPECT_EQ(tool.Run("status", "old "), "old keptnext");
-}
-
 TEST(ToolOutput, AChunkThatBeginsWithAZeroAddsNothing) {
   std::string bytes = std::string(kChunk, 'x') + "next";
   bytes[0] = '\0';
