@@ -33,12 +33,6 @@ protected:
   zrk::svn::SVNTimes Times;
 };
 
-TEST_F(DatabaseTree, OfNoProductDoesNothing) {
-  EXPECT_EQ(zrk::svn::RefreshDatabaseTree(Context(), nullptr, Times), 0);
-  EXPECT_EQ(zrk::svn::RefreshDatabaseTree(Context(), AttributeClass, Times), 0);
-  EXPECT_TRUE(Client.Runs().empty());
-}
-
 TEST_F(DatabaseTree, TakesOneRunWhateverTheNumberOfProducts) {
   BuildCar();
   Report({{.Path = "car.CATProduct"}});
@@ -88,40 +82,7 @@ TEST_F(DatabaseTree, AsksAgainWhenTheWordsOfTheClientsQuestionEndTheReading) {
   EXPECT_EQ(Shown("car"), (StatusAttributes{"3", "ReadOnly", "", ""}));
 }
 
-TEST_F(DatabaseTree, WritesOntoEachInstanceAndNotOntoItsReference) {
-  BuildCar();
-  Report({{.Path = "sub/wheel.CATPart", .Revision = "5"},
-          {.Path = "sub/axle.CATProduct", .Revision = "4"},
-          {.Path = "car.CATProduct", .Revision = "3"}});
-  Refresh();
-  EXPECT_EQ(Shown("car"), (StatusAttributes{"3", "ReadOnly", "", ""}));
-  for (const char* axle : {"car/axle.1", "car/axle.2"}) {
-    EXPECT_EQ(Shown(axle), (StatusAttributes{"4", "ReadOnly", "", ""}));
-    EXPECT_EQ(Shown(std::string(axle) + "/wheel.1"), (StatusAttributes{"5", "ReadOnly", "", ""}));
-  }
-  EXPECT_EQ(Shown("axle"), std::nullopt);
-  EXPECT_EQ(Shown("wheel"), std::nullopt);
-}
-
-TEST_F(DatabaseTree, RedrawsEachProductOnceParentsFirst) {
-  BuildCar();
-  Report({{.Path = "car.CATProduct"}});
-  Refresh();
-  EXPECT_EQ(Redrawn.Paths(),
-            (Paths{"car", "car/axle.1", "car/axle.1/wheel.1", "car/axle.2", "car/axle.2/wheel.1"}));
-}
-
-TEST_F(DatabaseTree, MayStartAtAnInstance) {
-  BuildCar();
-  Report({{.Path = "axle.CATProduct"}, {.Path = "wheel.CATPart"}});
-  Refresh("car/axle.2");
-  EXPECT_EQ(RunFolders(), Texts{Folder.Host("wc/sub")});
-  EXPECT_EQ(Redrawn.Paths(), (Paths{"car/axle.2", "car/axle.2/wheel.1"}));
-  EXPECT_NE(Shown("car/axle.2/wheel.1"), std::nullopt);
-  EXPECT_EQ(Shown("car"), std::nullopt);
-}
-
-TEST_F(DatabaseTree, ReplacesAllFourAttributesThatWereThere) {
+TEST_F(DatabaseTree, AFileThatWasNeverCommittedHasNoRevision) {
   BuildCar();
   WriteStatusAttributes(Products.At("car"), kOld);
   Report({{.Path = "car.CATProduct", .Item = "added", .Revision = ""}});
@@ -222,14 +183,12 @@ TEST_F(DatabaseTree, WhatTheWorkingCopyDoesNotHoldLosesItsAttributesAndIsRedrawn
   }
 }
 
-TEST_F(DatabaseTree, AFileThatTheReportDoesNotNameLosesItsAttributesIsRedrawnAndItsChildrenAreVisited) {
+TEST_F(DatabaseTree, AFileIsFoundByItsPathAndNotByItsNameAlone) {
   BuildCar();
   WriteStatusAttributes(Products.At("car/axle.1"), kOld);
-  Report({{.Path = "car.CATProduct"}, {.Path = "sub/wheel.CATPart"}, {.Path = "axle.CATProduct"}});
+  Report({{.Path = "axle.CATProduct"}});
   Refresh();
   EXPECT_EQ(Shown("car/axle.1"), std::nullopt);
-  EXPECT_EQ(Redrawn.Paths().at(1), "car/axle.1");
-  EXPECT_NE(Shown("car/axle.1/wheel.1"), std::nullopt);
 }
 
 TEST_F(DatabaseTree, ADocumentInNoWorkingCopyLosesItsAttributesAndIsRedrawnWithoutARun) {
@@ -270,59 +229,6 @@ TEST_F(DatabaseTree, ADocumentThatWasNeverStoredLosesItsAttributesIsRedrawnAndIt
   EXPECT_EQ(Shown("new"), std::nullopt);
   EXPECT_EQ(Redrawn.Paths(), (Paths{"new", "new/wheel.1"}));
   EXPECT_NE(Shown("new/wheel.1"), std::nullopt);
-}
-
-TEST_F(DatabaseTree, AProductThatIsNotLinkableLosesItsAttributesWithoutARedrawAndTheWalkStopsThere) {
-  BuildCar();
-  Products.AddNotLinkable("group").Place("group", "wheel.1", "wheel").Place("car", "group.1", "group");
-  WriteStatusAttributes(Products.At("car/group.1"), kOld);
-  WriteStatusAttributes(Products.At("car/group.1/wheel.1"), kOld);
-  Refresh("car/group.1");
-  EXPECT_EQ(Shown("car/group.1"), std::nullopt);
-  EXPECT_EQ(Shown("car/group.1/wheel.1"), kOld);
-  EXPECT_EQ(Redrawn.Paths(), Paths{});
-  EXPECT_TRUE(Client.Runs().empty());
-}
-
-TEST_F(DatabaseTree, AProductWithoutADocumentOrReferenceIsLeftUntouchedAndTheWalkStopsThere) {
-  BuildCar();
-  Products.AddWithoutDocument("plain").Place("plain", "wheel.1", "wheel").Place("car", "plain.1", "plain");
-  Products.Place("car", "gone.1", std::nullopt);
-  WriteStatusAttributes(Products.At("car/plain.1/wheel.1"), kOld);
-  for (const char* product : {"car/plain.1", "car/gone.1"}) {
-    WriteStatusAttributes(Products.At(product), kOld);
-    EXPECT_EQ(Refresh(product), 0);
-    EXPECT_EQ(Shown(product), kOld);
-  }
-  EXPECT_EQ(Shown("car/plain.1/wheel.1"), kOld);
-  EXPECT_EQ(Redrawn.Paths(), Paths{});
-  EXPECT_TRUE(Client.Runs().empty());
-}
-
-TEST_F(DatabaseTree, GoesOnBehindProductsWithoutADocument) {
-  Products.Add("car", "wc/car").Add("wheel", "wc/sub/wheel").AddNotLinkable("group").AddWithoutDocument("p");
-  Products.Place("car", "group.1", "group").Place("car", "p.1", "p").Place("car", "gone.1", std::nullopt);
-  Products.Place("car", "wheel.1", "wheel");
-  Report({{.Path = "car"}, {.Path = "sub/wheel"}});
-  Refresh();
-  EXPECT_EQ(Redrawn.Paths(), (Paths{"car", "car/wheel.1"}));
-  EXPECT_NE(Shown("car/wheel.1"), std::nullopt);
-}
-
-TEST_F(DatabaseTree, WithoutAnAttributeClassStillAsksAndRedraws) {
-  BuildCar();
-  AttributeClass = nullptr;
-  EXPECT_EQ(Refresh(), 0);
-  EXPECT_EQ(Redrawn.Paths().size(), 5U);
-}
-
-TEST_F(DatabaseTree, AProductThatCannotCarryAttributesIsRedrawnAndItsChildrenAreVisited) {
-  Products.Add({.Name = "car", .Document = Folder.Host("wc/car"), .Extendable = false});
-  Products.Add("wheel", "wc/wheel").Place("car", "wheel.1", "wheel");
-  Report({{.Path = "car"}, {.Path = "wheel"}});
-  EXPECT_EQ(Refresh(), 0);
-  EXPECT_EQ(Redrawn.Paths(), (Paths{"car", "car/wheel.1"}));
-  EXPECT_NE(Shown("car/wheel.1"), std::nullopt);
 }
 
 TEST_F(DatabaseTree, AClientThatCannotBeStartedTakesAllAttributesAway) {

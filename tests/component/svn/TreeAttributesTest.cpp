@@ -68,18 +68,6 @@ TEST_F(SVNTreeAttributes, AFileLockedElsewhereByNobodyKnownHasNoComment) {
   EXPECT_EQ(Refreshed(), (StatusAttributes{"9", "Locked", "", ""}));
 }
 
-TEST_F(SVNTreeAttributes, OwnLockWinsOverTheMark) {
-  List(OwnLock);
-  Report(ForeignLockReport(Path), "<status/>");
-  EXPECT_EQ(Refreshed()->Status, "Edit");
-}
-
-TEST_F(SVNTreeAttributes, TheMarkCountsInTheLineOfAnotherFile) {
-  List();
-  Report(UnlockedReport(Path) + ForeignLockReport("other.CATPart"));
-  EXPECT_EQ(Refreshed()->Status, "Locked");
-}
-
 TEST_F(SVNTreeAttributes, TheMarkInTheXMLReportDoesNotCount) {
   List();
   Report(UnlockedReport(Path), "<status> O </status>");
@@ -128,13 +116,6 @@ TEST_F(SVNTreeAttributes, SilentReportsLeaveWhatTheEntriesFileTells) {
   EXPECT_EQ(Refreshed(), (StatusAttributes{"9", "Edit", "", "Locked by: \nanna\n-------------\n"}));
 }
 
-TEST_F(SVNTreeAttributes, AClientThatCannotBeStartedLeavesWhatTheEntriesFileTells) {
-  List(OwnLock);
-  SVNExePath = "";
-  EXPECT_EQ(Refreshed(), (StatusAttributes{"9", "Edit", "", "Locked by: \nanna\n-------------\n"}));
-  EXPECT_TRUE(Client.Runs().empty());
-}
-
 TEST_F(SVNTreeAttributes, AClientThatCrashesLeavesWhatTheEntriesFileTells) {
   List();
   Client.When("status").Out("     O  ").Crash();
@@ -144,12 +125,6 @@ TEST_F(SVNTreeAttributes, AClientThatCrashesLeavesWhatTheEntriesFileTells) {
 TEST_F(SVNTreeAttributes, AFileWithoutARevisionHasAnEmptyOne) {
   WriteEntries("wc", AddedFile("car.CATProduct"));
   EXPECT_EQ(Refreshed(), (StatusAttributes{"", "ReadOnly", "", ""}));
-}
-
-TEST_F(SVNTreeAttributes, ReplaceAllFourThatWereThere) {
-  WriteStatusAttributes(Products.At("car"), {"7", "Edit", "R1", "old"});
-  List();
-  EXPECT_EQ(Refreshed(), (StatusAttributes{"9", "ReadOnly", "", ""}));
 }
 
 TEST_F(SVNTreeAttributes, AFileThatIsNotListedHasNoneWhateverTheReportsSay) {
