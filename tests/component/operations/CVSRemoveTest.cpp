@@ -1,6 +1,5 @@
 #include "component/operations/OperationTest.h"
 #include "support/DebugMessages.h"
-#include "support/HandleCount.h"
 #include "support/Launches.h"
 
 namespace {
@@ -96,13 +95,6 @@ TEST_F(CVSRemove, LeavesAttributesAndCachesAsTheyWere) {
   EXPECT_EQ(Manager().StatusBlockTable.size(), 1u);
   EXPECT_EQ(Manager().EditTable.size(), 1u);
   EXPECT_TRUE(Redraws.empty());
-}
-
-TEST_F(CVSRemove, LeavesNoHandleOpen) {
-  Remove(Folder.Host("a.txt"));
-  const int handles = CountOpenHandles();
-  for (int i = 0; i < 5; ++i) Remove(Folder.Host("a.txt"));
-  EXPECT_EQ(CountOpenHandles(), handles);
 }
 
 TEST_F(CVSRemove, WithoutARootRunsWithAnEmptyOneTwice) {

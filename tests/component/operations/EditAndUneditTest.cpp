@@ -1,6 +1,5 @@
 #include "ZRKICVSManager.h"
 #include "component/operations/OperationTest.h"
-#include "support/HandleCount.h"
 
 // A file's way from the repository to the user and back, as the host sees it.
 
@@ -36,19 +35,4 @@ TEST_F(EditAndUnedit, TheFileIsTakenAndGivenBack) {
   EXPECT_EQ(StatusOf("car"), "ReadOnly");
   EXPECT_FALSE(IsWritable(Document()));
   EXPECT_EQ(manager->Unedit(), E_FAIL);
-}
-
-TEST_F(EditAndUnedit, NoHandleStaysOpenBehindAnyOperation) {
-  AnswerQuestions({DialogAnswer::Yes, DialogAnswer::Yes});
-  const ZRKICVSManager_var manager(Car());
-  manager->Edit();
-  const int handles = CountOpenHandles();
-  manager->Unedit();
-  EXPECT_EQ(CountOpenHandles(), handles);
-  manager->Edit();
-  EXPECT_EQ(CountOpenHandles(), handles);
-  manager->Unedit();
-  EXPECT_EQ(CountOpenHandles(), handles);
-  manager->CVSRemove(Folder.Host("a.txt").c_str());
-  EXPECT_EQ(CountOpenHandles(), handles);
 }

@@ -1,6 +1,5 @@
 #include "component/operations/OperationTest.h"
 #include "dialogs/MessageCatalogs.h"
-#include "support/HandleCount.h"
 
 // The client says something: the user is shown it as it came, and the product is not marked.
 
@@ -93,12 +92,4 @@ TEST_F(EditMessage, AClientThatEndsInFailureWithoutAWordHasEdited) {
   Client.When("-x edit").Exit(1);
   EXPECT_EQ(Manager().Edit(), 0);
   EXPECT_EQ(StatusOf("car"), "Edit");
-}
-
-TEST_F(EditMessage, LeavesNoHandleOpen) {
-  Client.When("-x edit").Out("x has been modified; revert changes? ").ReadAll();
-  Manager().Edit();
-  const int handles = CountOpenHandles();
-  for (int i = 0; i < 5; ++i) EXPECT_EQ(Manager().Edit(), 1);
-  EXPECT_EQ(CountOpenHandles(), handles);
 }

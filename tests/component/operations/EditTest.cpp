@@ -1,6 +1,5 @@
 #include "component/operations/OperationTest.h"
 #include "support/DebugMessages.h"
-#include "support/HandleCount.h"
 
 // Taking a file for editing when the client has nothing to say.
 
@@ -96,13 +95,4 @@ TEST_F(Edit, LeavesTheCachesAlone) {
   EXPECT_EQ(Manager().Edit(), 0);
   EXPECT_EQ(Manager().StatusBlockTable, (zrk::cvs::ReportTable{{"a", "b"}}));
   EXPECT_EQ(Manager().EditTable, (zrk::cvs::ReportTable{{"c", "d"}}));
-}
-
-TEST_F(Edit, LeavesNoHandleOpen) {
-  Manager().Edit();
-  const int handles = CountOpenHandles();
-  for (int i = 0; i < 5; ++i) Manager().Edit();
-  EXPECT_EQ(CountOpenHandles(), handles);
-  EXPECT_EQ(Manager().ChildInput.Write.Get(), nullptr);
-  EXPECT_EQ(Manager().ChildOutput.Read.Get(), nullptr);
 }

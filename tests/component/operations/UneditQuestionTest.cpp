@@ -1,6 +1,5 @@
 #include "component/operations/OperationTest.h"
 #include "dialogs/MessageCatalogs.h"
-#include "support/HandleCount.h"
 
 // Giving back a modified file: the client asks whether to lose the changes, and waits.
 
@@ -143,17 +142,4 @@ TEST_F(UneditQuestion, AnyOtherMessageIsShownInTheSameWay) {
   ASSERT_EQ(Dialogs().size(), 2u);
   EXPECT_EQ(Dialogs()[0].Style, 0x4800200u);
   EXPECT_EQ(Dialogs()[0].Message, "cvs unedit: nothing known\r\n");
-}
-
-TEST_F(UneditQuestion, LeavesNoHandleOpenWhateverTheAnswer) {
-  AnswerQuestions({DialogAnswer::Yes, DialogAnswer::Yes, DialogAnswer::No, DialogAnswer::Yes});
-  EXPECT_EQ(Manager().Unedit(), 0);
-  const int handles = CountOpenHandles();
-  EXPECT_EQ(Manager().Unedit(), 0);
-  EXPECT_EQ(CountOpenHandles(), handles);
-  EXPECT_EQ(Manager().Unedit(), 1);
-  EXPECT_EQ(CountOpenHandles(), handles);
-  standin::SetApplicationFrame(false, false);
-  EXPECT_EQ(Manager().Unedit(), 0);
-  EXPECT_EQ(CountOpenHandles(), handles);
 }

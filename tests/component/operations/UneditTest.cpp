@@ -1,6 +1,5 @@
 #include "component/operations/OperationTest.h"
 #include "support/DebugMessages.h"
-#include "support/HandleCount.h"
 
 // Giving back a file that was not modified: the client asks nothing.
 
@@ -91,17 +90,4 @@ TEST_F(Unedit, SendsTheFileAlsoWhenItsFolderIsNoWorkingCopy) {
   EXPECT_EQ(manager.Unedit(), E_FAIL);
   EXPECT_EQ(Runs(), (TextLines{"-d /cvs/root status -v elsewhere\\bus.CATProduct",
                                "-d /cvs/root -n edit elsewhere\\bus.CATProduct"}));
-}
-
-TEST_F(Unedit, LeavesNoHandleOpen) {
-  Client.When("unedit");
-  Manager().Unedit();
-  const int handles = CountOpenHandles();
-  for (int i = 0; i < 5; ++i) {
-    SetWritable(Document());
-    EXPECT_EQ(Manager().Unedit(), 0);
-  }
-  EXPECT_EQ(CountOpenHandles(), handles);
-  EXPECT_EQ(Manager().ChildInput.Write.Get(), nullptr);
-  EXPECT_EQ(Manager().ChildOutput.Read.Get(), nullptr);
 }

@@ -5,7 +5,6 @@
 #include "SVNStage.h"
 #include "ZRKICVSManager.h"
 #include "support/DebugMessages.h"
-#include "support/HandleCount.h"
 
 namespace {
 
@@ -71,13 +70,6 @@ TEST_F(SVNDelete, TouchesNoAttributesAndRedrawsNothing) {
   Delete(Path);
   EXPECT_EQ(ReadStatusAttributes(Products.At("car")), old);
   EXPECT_TRUE(Redrawn.Paths().empty());
-}
-
-TEST_F(SVNDelete, LeavesNoHandleOpen) {
-  Delete(Path);
-  const int before = CountOpenHandles();
-  Delete(Path);
-  EXPECT_EQ(CountOpenHandles(), before);
 }
 
 TEST(SVNDeleteWithoutSVN, SucceedsAndTellsTheDebuggerThatTheLaunchFailed) {

@@ -6,7 +6,6 @@
 #include "ZRKICVSManager.h"
 #include "manager/ZRKECVSManager.h"
 #include "support/DialogRecorder.h"
-#include "support/HandleCount.h"
 
 namespace {
 
@@ -65,16 +64,6 @@ TEST_F(SVNHandOver, WorksInAFolderThatIsAlsoACVSWorkingCopy) {
   EXPECT_EQ(Manager()->Unedit(), S_OK);
   ASSERT_EQ(Client.Runs().size(), 5U);
   for (const ClientRun& run : Client.Runs()) EXPECT_EQ(run.Program, "svn.exe");
-}
-
-TEST_F(SVNHandOver, LeavesNoHandleOpen) {
-  const ZRKICVSManager_var manager = Manager();
-  manager->Edit();
-  const int before = CountOpenHandles();
-  manager->Edit();
-  EXPECT_EQ(CountOpenHandles(), before);
-  manager->Unedit();
-  EXPECT_EQ(CountOpenHandles(), before);
 }
 
 TEST_F(SVNHandOver, IsNotTimed) {

@@ -8,7 +8,6 @@
 #include "ZRKCVSStatus.h"
 #include "support/BinaryFiles.h"
 #include "support/Files.h"
-#include "support/HandleCount.h"
 #include "support/TemporaryFolder.h"
 #include "svn/EntriesFile.h"
 
@@ -138,14 +137,6 @@ TEST_F(SVNEntriesFile, ASlashDoesNotSeparate) {
   Write(Format(10) + Text(NameAndLines("sub/a.CATPart", 9, {{9, "2"}})));
   EXPECT_EQ(Read((Folder / "wc").generic_string() + "\\sub/a.CATPart"), S_OK);
   EXPECT_EQ(Record.WorkingRevision, "2");
-}
-
-TEST_F(SVNEntriesFile, OfBothReadingsNoFileStaysOpen) {
-  Write(Format(10) + File(10, "a.CATPart", "9", "bert"));
-  const int before = CountOpenHandles();
-  ReadFile("a.CATPart");
-  Read(Folder.Host("none\\a.CATPart"));
-  EXPECT_EQ(CountOpenHandles(), before);
 }
 
 }  // namespace

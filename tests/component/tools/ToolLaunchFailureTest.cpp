@@ -74,17 +74,6 @@ TEST(ToolLaunchFailure, AWorkingFolderThatIsNotThereFails) {
   EXPECT_EQ(messages.All(), kNotCreated);
 }
 
-TEST(ToolLaunchFailure, LeavesNoHandleOpen) {
-  ToolRunner tool;
-  // The first run may open what the system keeps for later ones.
-  tool.RunIn("");
-  tool.ClosePipes();
-  const int handles = CountOpenHandles();
-  for (int i = 0; i < 5; ++i) tool.RunIn("");
-  tool.ClosePipes();
-  EXPECT_EQ(CountOpenHandles(), handles);
-}
-
 TEST(ToolLaunchFailure, TheNextRunWorks) {
   ToolRunner tool;
   tool.Client.Otherwise().Out("text");

@@ -5,7 +5,6 @@
 
 #include "component/tools/ToolRunner.h"
 #include "support/DebugMessages.h"
-#include "support/HandleCount.h"
 #include "windows/WindowsControl.h"
 
 namespace {
@@ -103,17 +102,6 @@ TEST(ToolOutput, MayBeAHundredMegabytes) {
   for (std::size_t i = 0; i < count; ++i) expected += line;
   expected += "end";
   EXPECT_TRUE(tool.Run() == expected);
-}
-
-TEST(ToolOutput, NoHandleStaysOpenWhenTheRunIsOver) {
-  ToolRunner tool;
-  tool.Client.Otherwise().Out("text");
-  tool.Run();
-  tool.ClosePipes();
-  const int handles = CountOpenHandles();
-  for (int i = 0; i < 20; ++i) tool.Run();
-  tool.ClosePipes();
-  EXPECT_EQ(CountOpenHandles(), handles);
 }
 
 TEST(ToolOutput, TheWriteEndOfTheClientsInputStaysOpenForAnAnswer) {
