@@ -3,13 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "ZRKICVSManager.h"
-#include "attributes/AttributeDictionary.h"
 #include "component/svn/DatabaseStage.h"
-#include "manager/ZRKECVSManager.h"
-#include "support/CapturedOutput.h"
-#include "support/DebugMessages.h"
-#include "support/DialogRecorder.h"
-#include "support/HandleCount.h"
 
 namespace {
 
@@ -87,48 +81,6 @@ TEST_F(DatabaseRefresh, StaysThatOfTheTextFormWhereNoDatabaseIs) {
   for (const char* folder : {"wc", "wc/sub"}) WriteEntries(folder, entries::Folder("12"));
   Manager()->RefreshStatus(nullptr);
   EXPECT_EQ(Arguments(), TreeReports({"wc/car", "wc/sub/wheel"}));
-}
-
-TEST_F(DatabaseRefresh, TouchesNeitherTheCVSTablesNorTheCommunicationTimeNorStandardOutput) {
-  ZRKECVSManager manager(*Products.At("car").Get());
-  manager.StatusBlockTable.emplace("a", "block");
-  manager.EditTable.emplace("b", "line");
-  manager.CommTime = 7;
-  const CapturedOutput output;
-  manager.RefreshStatus(nullptr);
-  EXPECT_EQ(manager.StatusBlockTable, (zrk::cvs::ReportTable{{"a", "block"}}));
-  EXPECT_EQ(manager.EditTable, (zrk::cvs::ReportTable{{"b", "line"}}));
-  EXPECT_EQ(manager.CommTime, 7);
-  EXPECT_EQ(output.Bytes(), "");
-}
-
-TEST_F(DatabaseRefresh, LeavesNoHandleOpen) {
-  const ZRKICVSManager_var manager = Manager();
-  manager->RefreshStatus(nullptr);
-  const int before = CountOpenHandles();
-  manager->RefreshStatus(nullptr);
-  ReportOutOfReach({});
-  manager->RefreshStatus(nullptr);
-  EXPECT_EQ(CountOpenHandles(), before);
-}
-
-TEST_F(DatabaseRefresh, NeedsNoCVSAndShowsNoNotice) {
-  const ScriptedClient client(InstalledClients::None);
-  const DialogRecorder dialogs;
-  const DebugMessages messages;
-  Manager()->RefreshStatus(nullptr);
-  EXPECT_TRUE(dialogs.Requests().empty());
-  // Two messages for each of the two runs, and the three times.
-  ASSERT_EQ(messages.All().size(), 7U);
-  EXPECT_EQ(messages.All()[2], L"CreateProcess failed\n");
-  EXPECT_EQ(messages.All()[3], L"Create process failed with");
-}
-
-TEST_F(DatabaseRefresh, WithoutAnAttributeDictionaryStillRedraws) {
-  standin::RemoveAttributeDictionary();
-  Manager()->RefreshStatus(nullptr);
-  EXPECT_EQ(Client.Runs().size(), 1U);
-  EXPECT_EQ(Redrawn.Paths(), (Paths{"car", "car/wheel.1"}));
 }
 
 }  // namespace

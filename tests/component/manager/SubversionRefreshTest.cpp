@@ -3,13 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "ZRKICVSManager.h"
-#include "attributes/AttributeDictionary.h"
 #include "component/svn/SVNStage.h"
-#include "manager/ZRKECVSManager.h"
-#include "support/CapturedOutput.h"
 #include "support/DebugMessages.h"
-#include "support/DialogRecorder.h"
-#include "support/HandleCount.h"
 
 namespace {
 
@@ -78,31 +73,6 @@ TEST_F(SubversionRefresh, TakesTheSubversionRouteInAFolderOfBoth) {
   for (const ClientRun& run : Client.Runs()) EXPECT_EQ(run.Program, "svn.exe");
 }
 
-TEST_F(SubversionRefresh, TouchesNeitherTheCVSTablesNorTheCommunicationTime) {
-  ZRKECVSManager manager(*Products.At("car").Get());
-  manager.StatusBlockTable.emplace("a", "block");
-  manager.EditTable.emplace("b", "line");
-  manager.CommTime = 7;
-  manager.RefreshStatus(nullptr);
-  EXPECT_EQ(manager.StatusBlockTable, (zrk::cvs::ReportTable{{"a", "block"}}));
-  EXPECT_EQ(manager.EditTable, (zrk::cvs::ReportTable{{"b", "line"}}));
-  EXPECT_EQ(manager.CommTime, 7);
-}
-
-TEST_F(SubversionRefresh, WritesNothingToStandardOutput) {
-  const CapturedOutput output;
-  Manager()->RefreshStatus(nullptr);
-  EXPECT_EQ(output.Bytes(), "");
-}
-
-TEST_F(SubversionRefresh, LeavesNoHandleOpen) {
-  const ZRKICVSManager_var manager = Manager();
-  manager->RefreshStatus(nullptr);
-  const int before = CountOpenHandles();
-  manager->RefreshStatus(nullptr);
-  EXPECT_EQ(CountOpenHandles(), before);
-}
-
 // A manager that was made before the folder became a working copy.
 class SubversionFoundLate : public SubversionRefresh {
 protected:
@@ -131,55 +101,6 @@ TEST_F(SubversionFoundLate, MakesEditAndUneditFailUntilThen) {
   EXPECT_TRUE(Client.Runs().empty());
   EXPECT_EQ(LateManager->Edit(), S_OK);
   EXPECT_EQ(Arguments().at(0).at(0), "update");
-}
-
-class SubversionRefreshWithout : public testing::Test {
-protected:
-  void Build() {
-    Products.Add("car", "wc/car.CATProduct");
-    WriteFile(Folder / "wc" / ".svn" / "entries", Format(10) + File(10, "car.CATProduct", "9", "bert"));
-  }
-
-  const Session Host;
-  const TemporaryFolder Folder;
-  const DialogRecorder Dialogs;
-  const DebugMessages Messages;
-  Assembly Products{Folder};
-};
-
-TEST_F(SubversionRefreshWithout, CVSWorksAndShowsNoNotice) {
-  const ScriptedClient client(InstalledClients::SVNOnly);
-  Build();
-  const ZRKICVSManager_var manager = Products.At("car");
-  manager->RefreshStatus(nullptr);
-  EXPECT_EQ(client.Runs().size(), 2U);
-  EXPECT_EQ(ReadStatusAttributes(Products.At("car"))->Revision, "9");
-  EXPECT_TRUE(Dialogs.Requests().empty());
-}
-
-TEST_F(SubversionRefreshWithout, SVNWritesWhatTheEntriesFileTellsAndShowsNoNotice) {
-  const ScriptedClient client(InstalledClients::CVSOnly);
-  Build();
-  const ZRKICVSManager_var manager = Products.At("car");
-  manager->RefreshStatus(nullptr);
-  EXPECT_TRUE(client.Runs().empty());
-  EXPECT_EQ(ReadStatusAttributes(Products.At("car")), (StatusAttributes{"9", "ReadOnly", "", ""}));
-  EXPECT_TRUE(Dialogs.Requests().empty());
-  // Two messages for each of the two runs, and the three times.
-  ASSERT_EQ(Messages.All().size(), 7U);
-  EXPECT_EQ(Messages.All()[2], L"CreateProcess failed\n");
-  EXPECT_EQ(Messages.All()[3], L"Create process failed with");
-}
-
-TEST_F(SubversionRefreshWithout, AnAttributeDictionaryStillRedraws) {
-  standin::RemoveAttributeDictionary();
-  const ScriptedClient client;
-  Build();
-  const RedrawnProducts redrawn;
-  const ZRKICVSManager_var manager = Products.At("car");
-  manager->RefreshStatus(nullptr);
-  EXPECT_EQ(client.Runs().size(), 2U);
-  EXPECT_EQ(redrawn.Paths(), Paths{"car"});
 }
 
 }  // namespace
