@@ -36,6 +36,8 @@ inline constexpr std::string_view kPlainCharacters = "abcdefghijklmnopqrstuvwxyz
 // The same and bytes over 127, in no encoding.
 inline constexpr std::string_view kNameCharacters =
     "abcdefghijklmnopqrstuvwxyzABCXYZ0123456789 .-+_()@#\xC3\xBC";
+// Characters of a lock owner, those with a meaning in XML among them.
+inline constexpr std::string_view kOwnerCharacters = "abcxyzABC0123456789 .&<>\"'()@";
 
 // Up to `most` names of at least one character, all different.
 inline std::vector<std::string> ConsumeNames(FuzzedDataProvider& values, std::size_t most,

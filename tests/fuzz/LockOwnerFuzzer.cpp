@@ -1,7 +1,7 @@
 // The lock owner in the report of `svn status -v -u --xml`.
 
 #include "fuzz/Fuzzing.h"
-#include "fuzz/XMLReport.h"
+#include "support/ClientReports.h"
 #include "svn/StatusReport.h"
 
 namespace {
@@ -23,7 +23,7 @@ void OwnersAreNotLongerThanTheyCanBe(std::string_view report) {
 
 void TheFirstOwnerComesBack(FuzzedDataProvider& values) {
   const std::string owner = ConsumeWord(values, kOwnerCharacters, 60);
-  const std::optional<CATUnicodeString> read = zrk::svn::FirstLockOwner(LockedXMLReport(owner).c_str());
+  const std::optional<CATUnicodeString> read = zrk::svn::FirstLockOwner(reports::XMLReport(owner).c_str());
   Require(read.has_value(), "a report with a lock has an owner");
   Require(owner == read->ConvertToChar(), "the owner is the one that was written");
 }

@@ -2,8 +2,8 @@
 // 0, its XML report behind that. Each input costs two client runs.
 
 #include "fuzz/Fuzzing.h"
-#include "fuzz/XMLReport.h"
 #include "support/Assembly.h"
+#include "support/ClientReports.h"
 #include "support/Files.h"
 #include "support/Session.h"
 #include "svn/StatusReaders.h"
@@ -74,7 +74,7 @@ void ValuesComeBack(Stage& stage, FuzzedDataProvider& values) {
   const std::string owner = "o" + ConsumeWord(values, kOwnerCharacters, 40);
   const std::string report =
       std::string(locked ? "     O  " : "        ") + "    12        9 anna         car\r\n";
-  const StatusAttributes shown = stage.Refresh(report, LockedXMLReport(owner));
+  const StatusAttributes shown = stage.Refresh(report, reports::XMLReport(owner));
   Require(shown == StatusAttributes{"7", locked ? "Locked" : "ReadOnly", "", Comment(owner)},
           "values come back");
 }

@@ -3,10 +3,9 @@
 #include <map>
 #include <tuple>
 
-#include "component/svn/DatabaseReports.h"
 #include "dom/XmlTree.h"
 #include "fuzz/Fuzzing.h"
-#include "fuzz/XMLReport.h"
+#include "support/ClientReports.h"
 #include "svn/WorkingCopyReport.h"
 
 namespace {

@@ -3,9 +3,9 @@
 #include <string>
 
 #include "attributes/StatusAttributes.h"
-#include "component/cvs/SampleReport.h"
 #include "component/product/ProductEvents.h"
 #include "support/Assembly.h"
+#include "support/ClientReports.h"
 #include "support/Files.h"
 #include "support/Session.h"
 

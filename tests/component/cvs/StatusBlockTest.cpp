@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "component/cvs/SampleReport.h"
 #include "cvs/StatusBlock.h"
+#include "support/ClientReports.h"
 
 using zrk::cvs::ParseCVSStatusBlock;
 

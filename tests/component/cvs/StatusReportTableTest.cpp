@@ -1,8 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "component/cvs/SampleReport.h"
 #include "cvs/ReportTables.h"
+#include "support/ClientReports.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;

@@ -7,9 +7,9 @@
 
 #include "ZRKCVSStatus.h"
 #include "ZRKICVSManager.h"
-#include "component/svn/DatabaseReports.h"
 #include "support/Assembly.h"
 #include "support/CapturedOutput.h"
+#include "support/ClientReports.h"
 #include "support/DialogRecorder.h"
 #include "support/ScriptedClient.h"
 #include "support/Session.h"

@@ -53,16 +53,11 @@ void FaultStage::AnswerQuestions(std::deque<standin::DialogAnswer> answers) {
 }
 
 std::string FaultStage::StatusReport() {
-  return "===================================================================\r\n"
-         "File: car.CATPart\tStatus: Up-to-date\r\n\r\n"
-         "   Working revision:\t1.4\r\n"
-         "   Repository revision:\t1.4\t/cvs/root/wc/car.CATPart,v\r\n\r\n";
+  return zrk::sample::kSeparatorLine + zrk::sample::StatusBlock("wc/car.CATPart", "1.4", "Up-to-date", {});
 }
 
 std::string FaultStage::XMLReport() {
-  return "<?xml version=\"1.0\"?>\r\n<status>\r\n<entry\r\n   "
-         "path=\"car.CATPart\">\r\n<repos-status>\r\n<lock>\r\n"
-         "<owner>bert</owner>\r\n</lock>\r\n</repos-status>\r\n</entry>\r\n</status>\r\n";
+  return reports::XMLReport("bert");
 }
 
 std::string FaultStage::DatabaseReport() const {

@@ -3,10 +3,10 @@
 #include <string>
 #include <vector>
 
-#include "component/cvs/SampleReport.h"
 #include "manager/ZRKECVSManager.h"
 #include "support/Assembly.h"
 #include "support/CVSFolder.h"
+#include "support/ClientReports.h"
 #include "support/ScriptedClient.h"
 #include "support/Session.h"
 

@@ -8,9 +8,9 @@
 
 #include "ZRKICVSManager.h"
 #include "component/manager/CVSStage.h"
-#include "component/svn/DatabaseReports.h"
 #include "component/svn/SampleEntries.h"
 #include "support/CapturedOutput.h"
+#include "support/ClientReports.h"
 #include "support/DialogRecorder.h"
 #include "support/Files.h"
 #include "support/HandleCount.h"

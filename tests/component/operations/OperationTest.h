@@ -12,6 +12,7 @@
 #include "support/Assembly.h"
 #include "support/CVSFolder.h"
 #include "support/CapturedOutput.h"
+#include "support/ClientReports.h"
 #include "support/DialogRecorder.h"
 #include "support/Files.h"
 #include "support/ScriptedClient.h"
@@ -66,19 +67,10 @@ protected:
 
   // What the client reports of the document, with CR LF as Windows clients write.
   static std::string StatusReport(const std::string& revision = "1.4", const std::string& tag = "") {
-    std::string report =
-        "===================================================================\r\n"
-        "File: car body.CATProduct\tStatus: Up-to-date\r\n\r\n"
-        "   Working revision:\t" +
-        revision +
-        "\r\n"
-        "   Repository revision:\t" +
-        revision +
-        "\t/cvs/root/proj/sub/car body.CATProduct,v\r\n"
-        "   Sticky Tag:\t\t(none)\r\n   Sticky Date:\t\t(none)\r\n   Sticky Options:\t-kb\r\n\r\n";
-    if (!tag.empty())
-      report += "   Existing Tags:\r\n\t" + tag + "\t(revision: 1.4)\r\n\tOLD\t(revision: 1.1)\r\n";
-    return report;
+    std::vector<std::string> tags;
+    if (!tag.empty()) tags = {tag + "\t(revision: 1.4)", "OLD\t(revision: 1.1)"};
+    return zrk::sample::kSeparatorLine +
+           zrk::sample::StatusBlock("proj/sub/car body.CATProduct", revision, "Up-to-date", tags);
   }
 
   static constexpr char kDocument[] = "proj/sub/car body.CATProduct";

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "component/svn/DatabaseReports.h"
 #include "component/svn/SVNStage.h"
+#include "support/ClientReports.h"
 
 // A Subversion working copy "wc" with a database, without a client.
 class DatabaseStage : public SVNStage {

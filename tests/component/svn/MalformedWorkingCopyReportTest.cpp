@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "DatabaseReports.h"
+#include "support/ClientReports.h"
 #include "svn/WorkingCopyReport.h"
 
 namespace {

@@ -9,6 +9,7 @@
 #include "SampleEntries.h"
 #include "component/product/ProductEvents.h"
 #include "support/Assembly.h"
+#include "support/ClientReports.h"
 #include "support/Files.h"
 #include "support/ScriptedClient.h"
 #include "support/Session.h"
@@ -28,22 +29,9 @@ protected:
     return {{true, NoText, NoText, SVNExePath, ChildOutput, ChildInput}, WorkingFolder, AttributeClass};
   }
 
-  // " O " stands where the client shows a lock held elsewhere.
-  static std::string ForeignLockReport(const std::string& path) {
-    return "     O           12        9 anna         " + path + "\r\nStatus against revision:     12\r\n";
-  }
-  static std::string UnlockedReport(const std::string& path) {
-    return "                 12        9 anna         " + path + "\r\nStatus against revision:     12\r\n";
-  }
-  static std::string XMLReport(const std::string& owner) {
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<status>\r\n<target\r\n   path=\"x\">\r\n"
-           "<entry\r\n   path=\"x\">\r\n<wc-status\r\n   item=\"normal\"\r\n   revision=\"12\">\r\n"
-           "</wc-status>\r\n<repos-status\r\n   props=\"none\"\r\n   item=\"none\">\r\n<lock>\r\n"
-           "<token>opaquelocktoken:1</token>\r\n<owner>" +
-           owner +
-           "</owner>\r\n<created>2026-11-20T10:16:00.000000Z</created>\r\n</lock>\r\n</repos-status>\r\n"
-           "</entry>\r\n<against\r\n   revision=\"12\"/>\r\n</target>\r\n</status>\r\n";
-  }
+  static std::string ForeignLockReport(const std::string& path) { return reports::ForeignLockReport(path); }
+  static std::string UnlockedReport(const std::string& path) { return reports::UnlockedReport(path); }
+  static std::string XMLReport(const std::string& owner) { return reports::XMLReport(owner); }
 
   // The arguments of the runs so far.
   std::vector<std::vector<std::string>> Arguments() const {

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-#include "DatabaseReports.h"
+#include "support/ClientReports.h"
 
 namespace {
 

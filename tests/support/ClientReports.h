@@ -5,7 +5,41 @@
 #include <string_view>
 #include <vector>
 
-// The reports of `svn status -v -u --xml` of a client that keeps a database, as it writes them.
+// Reports of the clients as they write them, one function for each kind.
+
+// The reports of `cvs status -v`.
+namespace zrk::sample {
+
+inline constexpr const char* kCVSRoot = ":pserver:anna@host:/cvs/root";
+
+// What `cvs status -v` says about one file, from "File:" to its last line end. `repositoryFile` is the
+// path below the repository's root folder, separated by "/"; each tag is a line.
+inline std::string StatusBlock(const std::string& repositoryFile, const std::string& revision,
+                               const std::string& status = "Up-to-date",
+                               const std::vector<std::string>& tags = {
+                                   "release-2                \t(revision: 1.4)",
+                                   "release-1                \t(revision: 1.2)"}) {
+  const std::string name = repositoryFile.substr(repositoryFile.rfind('/') + 1);
+  std::string tagLines;
+  for (const std::string& tag : tags) tagLines += "\t" + tag + "\r\n";
+  if (!tags.empty()) tagLines = "   Existing Tags:\r\n" + tagLines + "\r\n";
+  return "File: " + name + " \tStatus: " + status + "\r\n\r\n" +  //
+         "   Working revision:\t" + revision + "\r\n" +           //
+         "   Repository revision:\t" + revision + "\t/cvs/root/" + repositoryFile + ",v\r\n" +
+         "   Commit Identifier:\tkOGeDSplZWuXm2gG\r\n" +  //
+         "   Sticky Tag:\t\t(none)\r\n" +                 //
+         "   Sticky Date:\t\t(none)\r\n" +                //
+         "   Sticky Options:\t-kb\r\n\r\n" +              //
+         tagLines;
+}
+
+// What stands before each block.
+inline constexpr const char* kSeparatorLine =
+    "===================================================================\r\n";
+
+}  // namespace zrk::sample
+
+// The reports of `svn status -v -u`, as XML and as text.
 namespace reports {
 
 struct Lock {
@@ -94,5 +128,18 @@ inline std::string Report(const std::vector<Entry>& entries) {
 // What the client leaves when it cannot reach the repository.
 inline const std::string kUnreachable =
     kHead + "svn: E170013: Unable to connect to a repository at URL 'svn://host/car'\r\n";
+
+// The line of `svn status -v -u` on one file. " O " stands where the client shows a lock held elsewhere.
+inline std::string ForeignLockReport(const std::string& path) {
+  return "     O           12        9 anna         " + path + "\r\nStatus against revision:     12\r\n";
+}
+inline std::string UnlockedReport(const std::string& path) {
+  return "                 12        9 anna         " + path + "\r\nStatus against revision:     12\r\n";
+}
+
+// The report of `svn status -v -u --xml` on one file that this owner has locked elsewhere.
+inline std::string XMLReport(const std::string& owner) {
+  return Report({LockedElsewhere("x", {"opaquelocktoken:1", owner})});
+}
 
 }  // namespace reports
