@@ -58,12 +58,17 @@ bool AreOneFile(const std::filesystem::path& one, const std::filesystem::path& o
   return !error && place == std::filesystem::weakly_canonical(other, error);
 }
 
-// Opening a file to write empties it.
+void CheckOutput(const std::optional<std::string>& output, const std::string& what,
+                 const std::optional<std::filesystem::path>& other, const std::string& role) {
+  if (output && other && AreOneFile(PathFromNative(*output), *other))
+    throw CallError(Utf8FromPath(PathFromNative(*output)) + ": the " + what + " would overwrite " + role);
+}
+
+// Nothing that is there already may be lost by a slip in the call.
 void CheckOutputs(const Options& options) {
   const auto check = [](const std::optional<std::string>& output, const std::string& what,
                         const std::optional<std::string>& other, const std::string& role) {
-    if (output && other && AreOneFile(PathFromNative(*output), PathFromNative(*other)))
-      throw CallError(Utf8FromPath(PathFromNative(*output)) + ": the " + what + " would overwrite " + role);
+    if (other) CheckOutput(output, what, PathFromNative(*other), role);
   };
   const bool commandsFromFile = options.CommandFile != "-";
   for (const auto& input :
@@ -74,10 +79,23 @@ void CheckOutputs(const Options& options) {
   check(options.Page, "page", options.Report, "the report");
 }
 
+void CheckOutputs(const Options& options, const SessionDescription& description) {
+  const auto check = [&](const std::optional<std::string>& output, const std::string& what) {
+    std::error_code error;
+    if (!output || !std::filesystem::is_regular_file(PathFromNative(*output), error)) return;
+    for (const auto& product : description.Products) {
+      CheckOutput(output, what, product.Document, "a document of the session");
+    }
+  };
+  check(options.Report, "report");
+  check(options.Page, "page");
+}
+
 int Run(const Options& options) {
   CheckOutputs(options);
   const bool prompt = options.Commands.empty() && !options.CommandFile && IsTerminal(kStandardInput);
   const auto description = Describe(options);
+  CheckOutputs(options, description);
   std::vector<SourcedCommand> commands;
   if (!prompt) commands = ReadCommands(options);
   PrepareClients(options);

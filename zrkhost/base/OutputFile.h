@@ -8,7 +8,7 @@
 namespace zrkhost {
 
 // A file that a call is asked to write in the end. It is opened before anything is run, so that one that
-// cannot be written is known by then; opening empties it.
+// cannot be written is known by then. What it held before stays until it is written.
 class OutputFile {
 public:
   // `what` it holds, for messages, such as "report". Throws CallError.
@@ -18,6 +18,7 @@ public:
   bool Write(std::string_view text);
 
 private:
+  std::filesystem::path file_;
   std::ofstream stream_;
 };
 

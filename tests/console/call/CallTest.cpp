@@ -144,6 +144,23 @@ TEST_F(Call, RefusesAReportInPlaceOfWhatItReads) {
   EXPECT_EQ(ReadFile(folder_ / "commands.txt"), "tree\n");
 }
 
+TEST_F(Call, LeavesAnEarlierReportAloneWhenThePageCannotBeWritten) {
+  WriteFile(folder_ / "report.json", "earlier");
+  ExpectRefused(
+      Zrkhost({CarSession(), "-c", "tree", "--report", Path("report.json"), "--page", Path("no/page")}),
+      "the page cannot be written");
+  EXPECT_EQ(ReadFile(folder_ / "report.json"), "earlier");
+}
+
+TEST_F(Call, RefusesAReportOrPageInPlaceOfADocument) {
+  WriteFile(folder_ / "wc" / "car.CATProduct", "geometry");
+  for (const char* option : {"--report", "--page"}) {
+    ExpectRefused(Zrkhost({"--folder", Path("wc"), "-c", "tree", option, Path("wc/car.CATProduct")}),
+                  "would overwrite a document of the session");
+  }
+  EXPECT_EQ(ReadFile(folder_ / "wc" / "car.CATProduct"), "geometry");
+}
+
 TEST_F(Call, OverwritesAnEarlierReport) {
   WriteFile(folder_ / "report.json", "earlier");
   EXPECT_EQ(Report({CarSession(), "-c", "tree"})["commands"].size(), 1u);
