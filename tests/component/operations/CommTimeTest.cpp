@@ -77,19 +77,19 @@ protected:
 class CommTimeOf : public CommTime, public testing::WithParamInterface<Run> {};
 
 TEST_P(CommTimeOf, Run) {
-  const auto& [name, operation, command, effect] = GetParam();
+  const auto& run = GetParam();
   Manager();
   SlowTimes times;
   standin::SetLaunchListener([&](const standin::Launch& launch) {
-    if (launch.CommandLine.find(command) == std::wstring::npos) return;
+    if (launch.CommandLine.find(run.Command) == std::wstring::npos) return;
     Manager().CommTime = kBefore;
     slow_step::Take(times);
   });
-  slow_step::Measure(times, [&] { Invoke(operation); });
+  slow_step::Measure(times, [&] { Invoke(run.Operation); });
   ASSERT_EQ(times.Steps, 1);
-  const Ticks counted = Manager().CommTime - (effect == Effect::Replaced ? 0 : kBefore);
-  EXPECT_GE(counted, effect == Effect::None ? 0 : times.Within);
-  EXPECT_LE(counted, effect == Effect::None ? 0 : times.Within + times.Outside);
+  const Ticks counted = Manager().CommTime - (run.Of == Effect::Replaced ? 0 : kBefore);
+  EXPECT_GE(counted, run.Of == Effect::None ? 0 : times.Within);
+  EXPECT_LE(counted, run.Of == Effect::None ? 0 : times.Within + times.Outside);
 }
 
 INSTANTIATE_TEST_SUITE_P(Run, CommTimeOf, testing::ValuesIn(kRuns),
