@@ -83,10 +83,11 @@ LineEditor::Editor::Editor(std::string prompt, std::function<Completion(std::str
   // A signal must not leave the terminal as the editor needs it.
   el_set(Edit, EL_SIGNAL, 1);
   el_set(Edit, EL_HIST, history, Lines);
-  unsigned char (*const completeWord)(EditLine*, int) = [](EditLine* edit, int) {
+  unsigned char (*const completeWord)(EditLine*, wint_t) = [](EditLine* edit, wint_t) {
     return EditorOf<Editor>(edit).CompleteWord();
   };
-  el_set(Edit, EL_ADDFN, "zrkhost-complete", "Complete the word", completeWord);
+  // Wide, as the library keeps these texts; of 8-bit ones it would make copies that it never frees.
+  el_wset(Edit, EL_ADDFN, L"zrkhost-complete", L"Complete the word", completeWord);
   el_set(Edit, EL_BIND, "^I", "zrkhost-complete", nullptr);
   el_set(Edit, EL_BIND, "^R", "em-inc-search-prev", nullptr);
 }
