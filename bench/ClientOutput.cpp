@@ -87,7 +87,7 @@ Measurements MeasureClientOutput() {
   for (const std::size_t megabytes : {64, 256}) Teach(client, megabytes);
   const SideBySide result = Compare(
       kRounds, [&] { CaptureWithRunTool(place, 256); }, [&] { CaptureWithBareLoop(place, 256); });
-  return {{"Output of 256 MB: RunTool to a bare loop over the same calls", result.Ratio(), "times", 1.25,
+  return {{"Output of 256 MB: RunTool to a bare loop over the same calls", result.Ratio(), "times", 1.10,
            result.Detail("RunTool", "bare loop")},
           Growth(
               "Output of 64 MB to 256 MB", kRounds, 4, [&] { CaptureWithRunTool(place, 64); },
