@@ -20,6 +20,10 @@ TEST(QuestionSearch, FindsTheQuestionHoweverItComes) {
   }
 }
 
+TEST(QuestionSearch, FindsItBehindWordsThatResembleIt) {
+  EXPECT_TRUE(QuestionSearch().FindIn("g, revert change, invert changes, revert changes"));
+}
+
 TEST(QuestionSearch, FindsItBehindALetterThatIsShorterNowThatItIsWhole) {
   const std::string before(100, 'x');
   QuestionSearch search;
