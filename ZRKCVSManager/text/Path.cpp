@@ -2,22 +2,20 @@
 
 #include <windows.h>
 
-#include <algorithm>
-
 namespace zrk::text {
 namespace {
 
-// Where the character behind the one at `position` starts.
-std::size_t Next(std::string_view text, std::size_t position) {
-  const std::size_t length = IsDBCSLeadByte(static_cast<BYTE>(text[position])) ? 2 : 1;
-  return std::min(position + length, text.size());
+// Whether a character of two bytes began one byte before. Of bytes in a row that may begin one, every second
+// is the end of the one before it.
+bool IsSecondByte(std::string_view text, std::size_t position) {
+  std::size_t first = position;
+  while (first > 0 && IsDBCSLeadByte(static_cast<BYTE>(text[first - 1]))) --first;
+  return (position - first) % 2 == 1;
 }
 
 std::size_t LastSeparator(std::string_view path) {
-  std::size_t last = std::string_view::npos;
-  for (std::size_t position = 0; position < path.size(); position = Next(path, position)) {
-    if (path[position] == '\\') last = position;
-  }
+  std::size_t last = path.rfind('\\');
+  while (last != std::string_view::npos && IsSecondByte(path, last)) last = path.substr(0, last).rfind('\\');
   return last;
 }
 
@@ -40,10 +38,9 @@ std::string_view NameOf(std::string_view path) {
 }
 
 std::size_t Find(std::string_view path, std::string_view text) {
-  for (std::size_t position = 0;; position = Next(path, position)) {
-    if (path.substr(position).starts_with(text)) return position;
-    if (position == path.size()) return std::string_view::npos;
-  }
+  std::size_t found = path.find(text);
+  while (found != std::string_view::npos && IsSecondByte(path, found)) found = path.find(text, found + 1);
+  return found;
 }
 
 }  // namespace zrk::text

@@ -84,6 +84,13 @@ TEST_F(PathInCodePage932, IsSearchedByLetters) {
             2u);
 }
 
+// 83 83 is one letter too.
+TEST_F(PathInCodePage932, IsSplitBehindALetterWhoseSecondByteMayBeginOne) {
+  EXPECT_EQ(NameOf("C:\\\x83\x83\\p"), "p");
+  EXPECT_EQ(NameOf("C:\\\x83\x83\x83\\p"), "\x83\x83\x83\\p");
+  EXPECT_EQ(FolderOf("\x83\x83\\p"), "\x83\x83");
+}
+
 TEST_F(PathInCodePage932, MayEndWithinALetter) {
   EXPECT_EQ(NameOf("C:\\\x95"), "\x95");
   EXPECT_EQ(Find("C:\\\x95", "\\p"), std::string_view::npos);
