@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <optional>
 
 namespace {
 
@@ -97,17 +98,40 @@ int ReportFailure(const InstalledClient& client, const char* what, int error) {
   return kClientNotStarted;
 }
 
+// Nothing, after a message, when there is none.
+std::optional<std::string> FindClient(const InstalledClient& client) {
+  std::string program = FindAlongPath(client.Program);
+  if (!program.empty()) return program;
+  std::fprintf(stderr,
+               "%s: the program \"%s\" is not on the PATH; install it (Debian: apt-get install %s)\n",
+               client.AdapterName.c_str(), client.Program.c_str(), client.Package.c_str());
+  return std::nullopt;
+}
+
+// The program and its arguments as the system takes them: with a null pointer behind the last.
+class CommandLine {
+public:
+  CommandLine(const std::string& program, const std::vector<std::string>& arguments) : texts_{program} {
+    texts_.insert(texts_.end(), arguments.begin(), arguments.end());
+    for (std::string& text : texts_) pointers_.push_back(text.data());
+    pointers_.push_back(nullptr);
+  }
+  CommandLine(const CommandLine&) = delete;
+  CommandLine& operator=(const CommandLine&) = delete;
+
+  char** Get() { return pointers_.data(); }
+
+private:
+  std::vector<std::string> texts_;
+  std::vector<char*> pointers_;
+};
+
 }  // namespace
 
 int RunInstalledClient(const InstalledClient& client, const std::vector<std::string>& arguments,
                        const OutputSink& output) {
-  std::string program = FindAlongPath(client.Program);
-  if (program.empty()) {
-    std::fprintf(stderr,
-                 "%s: the program \"%s\" is not on the PATH; install it (Debian: apt-get install %s)\n",
-                 client.AdapterName.c_str(), client.Program.c_str(), client.Package.c_str());
-    return kClientNotFound;
-  }
+  const std::optional<std::string> program = FindClient(client);
+  if (!program) return kClientNotFound;
   SetMessageLanguage();
 
   FileDescriptor readEnd;
@@ -117,23 +141,28 @@ int RunInstalledClient(const InstalledClient& client, const std::vector<std::str
   readEnd.Number = ends[0];
   writeEnd.Number = ends[1];
 
-  std::vector<std::string> texts = arguments;
-  std::vector<char*> argv = {program.data()};
-  for (std::string& text : texts) argv.push_back(text.data());
-  argv.push_back(nullptr);
-
+  CommandLine commandLine(*program, arguments);
   SpawnActions spawn;
   posix_spawn_file_actions_adddup2(&spawn.Actions, writeEnd.Number, STDOUT_FILENO);
   posix_spawn_file_actions_adddup2(&spawn.Actions, writeEnd.Number, STDERR_FILENO);
   pid_t process = 0;
-  const int error = posix_spawn(&process, program.c_str(), &spawn.Actions, nullptr, argv.data(), environ);
-  if (error != 0) return ReportFailure(client, program.c_str(), error);
+  const int error =
+      posix_spawn(&process, program->c_str(), &spawn.Actions, nullptr, commandLine.Get(), environ);
+  if (error != 0) return ReportFailure(client, program->c_str(), error);
 
   writeEnd.Close();
   ForwardOutput(readEnd.Number, output);
   // A client that still writes must not wait for a reader that has gone.
   readEnd.Close();
   return WaitForEnd(process);
+}
+
+int BecomeInstalledClient(const InstalledClient& client, const std::vector<std::string>& arguments) {
+  const std::optional<std::string> program = FindClient(client);
+  if (!program) return kClientNotFound;
+  SetMessageLanguage();
+  execv(program->c_str(), CommandLine(*program, arguments).Get());
+  return ReportFailure(client, program->c_str(), errno);
 }
 
 bool WriteToStandardOutput(std::string_view bytes) {

@@ -27,5 +27,9 @@ struct InstalledClient {
 int RunInstalledClient(const InstalledClient& client, const std::vector<std::string>& arguments,
                        const OutputSink& output);
 
+// Puts the client in this process's place, for output that needs no change. Comes back only when that fails,
+// with the status to end with: 127 when there is no client.
+int BecomeInstalledClient(const InstalledClient& client, const std::vector<std::string>& arguments);
+
 // Writes to this process's standard output; false when nobody reads it any more.
 bool WriteToStandardOutput(std::string_view bytes);

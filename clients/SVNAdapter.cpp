@@ -8,13 +8,16 @@ int main(int argc, char** argv) {
   // The client's --non-interactive does not reach ssh, which would ask for a password on the terminal.
   setenv("SVN_SSH", "ssh -q -o BatchMode=yes --", 0);
 
+  const InstalledClient client{"svn", "svn.exe", "subversion"};
+  const std::vector<std::string> call{argv + (argc > 0 ? 1 : 0), argv + argc};
+  const std::vector<std::string> translatedCall = TranslateSVNArguments(call);
+  if (IsForTodaysClient(call)) return BecomeInstalledClient(client, translatedCall);
+
   LineEndTranslator lineEnds;
   std::string translated;
-  return RunInstalledClient({"svn", "svn.exe", "subversion"},
-                            TranslateSVNArguments({argv + (argc > 0 ? 1 : 0), argv + argc}),
-                            [&](std::string_view piece) {
-                              translated.clear();
-                              lineEnds.Translate(piece, translated);
-                              return WriteToStandardOutput(translated);
-                            });
+  return RunInstalledClient(client, translatedCall, [&](std::string_view piece) {
+    translated.clear();
+    lineEnds.Translate(piece, translated);
+    return WriteToStandardOutput(translated);
+  });
 }

@@ -101,7 +101,7 @@ bool IsDeletionOfPaths(const std::vector<Argument>& arguments) {
   return deletes && paths;
 }
 
-bool IsForTodaysClient(const std::vector<Argument>& arguments) {
+bool IsNeverAsked(const std::vector<Argument>& arguments) {
   return std::any_of(arguments.begin(), arguments.end(), [](const Argument& argument) {
     return argument.ItsRole == Role::Option && argument.Text == kNonInteractive;
   });
@@ -118,9 +118,13 @@ std::string Closed(const std::string& path) {
 
 }  // namespace
 
+bool IsForTodaysClient(const std::vector<std::string>& arguments) {
+  return IsNeverAsked(Parse(arguments));
+}
+
 std::vector<std::string> TranslateSVNArguments(const std::vector<std::string>& arguments) {
   const std::vector<Argument> parsed = Parse(arguments);
-  const bool isForToday = IsForTodaysClient(parsed);
+  const bool isForToday = IsNeverAsked(parsed);
   const bool dropMessage = !isForToday && IsDeletionOfPaths(parsed);
 
   std::vector<std::string> translated;

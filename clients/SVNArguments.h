@@ -3,9 +3,12 @@
 #include <string>
 #include <vector>
 
+// Whether a command line, without the program's name, says "--non-interactive" itself: it is made for today's
+// client.
+bool IsForTodaysClient(const std::vector<std::string>& arguments);
+
 // From a command line made for the Windows client to one for the Subversion of this system, both without the
-// program's name. One that says "--non-interactive" itself is made for today's client: only the "\" in its
-// paths become "/". In any other
+// program's name. In one for today's client only the "\" in its paths become "/". In any other
 //
 // - "--non-interactive" comes first: nobody sits in front of the client to type a password;
 // - "\" in a path becomes "/", and a path that holds "@" ends in "@": the client would take what follows

@@ -58,6 +58,20 @@ TEST_P(InstalledClient, IsMissedWithoutAPath) {
   EXPECT_EQ(Call({"x"}, "", {{"PATH", ""}}).Status, 127);
 }
 
+// The client takes the adapter's place then.
+TEST_P(InstalledClient, IsAlsoMissedByACallThatNeverAsks) {
+  const CommandResult result = Call({"x", "--non-interactive"}, "", {{"PATH", folder_.Path().string()}});
+  EXPECT_EQ(result.Status, 127);
+  EXPECT_THAT(result.Output, HasSubstr("is not on the PATH"));
+}
+
+TEST_P(InstalledClient, SpeaksEnglishAndUTF8AndGivesItsStatusInACallThatNeverAsks) {
+  WriteProgram(Client(), "printf \"$LC_ALL-$LANGUAGE- $*\"; exit 7\n");
+  const CommandResult result = Call({"x", "--non-interactive"}, "", {{"LC_ALL", "C"}, {"LANGUAGE", "de"}});
+  EXPECT_EQ(result.Status, 7);
+  EXPECT_EQ(result.Output, "C.UTF-8-- x --non-interactive");
+}
+
 TEST_P(InstalledClient, IsSoughtInOneFolderAfterTheOther) {
   const std::filesystem::path first = folder_ / "first";
   WriteFile(first / GetParam(), "not a program");

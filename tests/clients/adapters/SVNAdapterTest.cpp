@@ -76,4 +76,12 @@ TEST_F(SVNAdapter, WarnsOutsideAWorkingCopyAndSucceeds) {
   EXPECT_EQ(result.Status, 0);
 }
 
+TEST_F(SVNAdapter, PassesOnWhatACallThatNeverAsksGivesAsItIs) {
+  const CommandResult result = Call({"status", "-v", "--xml", "--non-interactive", Argument() + "@"});
+  EXPECT_EQ(result.Status, 0);
+  EXPECT_THAT(result.Output, HasSubstr(file_));
+  EXPECT_THAT(result.Output, HasSubstr("</status>\n"));
+  EXPECT_THAT(result.Output, Not(HasSubstr("\r")));
+}
+
 }  // namespace
