@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <string_view>
 
+#include "Slashes.h"
+
 namespace {
 
 bool IsOption(std::string_view argument) {
@@ -21,11 +23,6 @@ std::string_view LettersWithValue(std::string_view command) {
   // Everywhere else -a is a flag.
   const bool watches = command == "edit" || command == "unedit" || command == "watch";
   return watches ? "a" : "DFIWjkmr";
-}
-
-std::string WithSlashes(std::string path) {
-  std::replace(path.begin(), path.end(), '\\', '/');
-  return path;
 }
 
 }  // namespace

@@ -5,6 +5,8 @@
 #include <optional>
 #include <string_view>
 
+#include "Slashes.h"
+
 namespace {
 
 constexpr const char* kNonInteractive = "--non-interactive";
@@ -105,11 +107,6 @@ bool IsNeverAsked(const std::vector<Argument>& arguments) {
   return std::any_of(arguments.begin(), arguments.end(), [](const Argument& argument) {
     return argument.ItsRole == Role::Option && argument.Text == kNonInteractive;
   });
-}
-
-std::string WithSlashes(std::string path) {
-  std::replace(path.begin(), path.end(), '\\', '/');
-  return path;
 }
 
 std::string Closed(const std::string& path) {
