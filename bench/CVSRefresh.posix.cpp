@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "ManyParts.h"
 #include "Measurement.h"
 #include "ZRKICVSManager.h"
 #include "support/Assembly.h"
@@ -18,11 +19,7 @@
 
 namespace {
 
-constexpr int kFiles = 5'000;
-
-std::string DocumentName(int file) {
-  return "folder " + std::to_string(file / 100) + "/part" + std::to_string(file) + ".CATPart";
-}
+constexpr int kWatchedFiles = 5'000;
 
 // What the launches told Windows' command line, for a shell: the client itself, "/" in paths, and the
 // question for editors in the client's own words.
@@ -42,21 +39,14 @@ std::string ShellScript(const std::vector<standin::Launch>& launches, const std:
   return script;
 }
 
-// A working copy of kFiles files, and the product of each: "car" is the root, all others are its children.
+// A working copy of kWatchedFiles files, and the product of each.
 Assembly CheckOutAssembly(const TemporaryFolder& folder) {
-  std::map<std::string, std::string> files;
-  files["car.CATProduct"] = "car\n";
-  for (int file = 1; file < kFiles; ++file) files[DocumentName(file)] = "part\n";
   const CVSRepository repository(folder / "repository");
-  repository.Import("car", files);
+  repository.Import("car", FileContents(kWatchedFiles));
   repository.Checkout("car", folder.Path());
 
   Assembly assembly(folder);
-  assembly.Add("car", "car/car.CATProduct");
-  for (int file = 1; file < kFiles; ++file) {
-    const std::string name = "part" + std::to_string(file);
-    assembly.Add(name, "car/" + DocumentName(file)).Place("car", name, name);
-  }
+  AddProducts(assembly, kWatchedFiles);
   return assembly;
 }
 

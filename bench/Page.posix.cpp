@@ -15,12 +15,12 @@
 
 namespace {
 
-constexpr std::size_t kProducts = 10'000;
+constexpr std::size_t kProductsOfPage = 10'000;
 
 // A root, assemblies of 99 parts each, with attributes as CVS gives them: every tenth product is locked.
 std::vector<zrkhost::ProductRecord> MakeProducts() {
   std::vector<zrkhost::ProductRecord> products;
-  for (std::size_t i = 0; i < kProducts; ++i) {
+  for (std::size_t i = 0; i < kProductsOfPage; ++i) {
     const std::string number = std::to_string(i);
     const std::string file = "Roadster/folder " + std::to_string(i / 100) + "/part" + number + ".CATPart";
     zrkhost::ProductRecord& product = products.emplace_back();
@@ -87,9 +87,9 @@ Measurements MeasurePage() {
     bare = std::min(bare, SecondsToReady(browser, folder / "bare.html"));
     ready = std::min(ready, SecondsToReady(browser, folder / "page.html"));
     few = std::min(few, SecondsToFilter(browser, "part4711.", 3));
-    most = std::min(most, SecondsToFilter(browser, "release", kProducts));
+    most = std::min(most, SecondsToFilter(browser, "release", kProductsOfPage));
   }
-  const auto perProduct = [](double value) { return value / static_cast<double>(kProducts); };
+  const auto perProduct = [](double value) { return value / static_cast<double>(kProductsOfPage); };
   return {{"Page of 10,000 products: size",
            perProduct(static_cast<double>(page.size())),
            "bytes/product",

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "ManyParts.h"
 #include "Measurement.h"
 #include "ZRKICVSManager.h"
 #include "core/HostPath.h"
@@ -22,28 +23,15 @@
 
 namespace {
 
-constexpr int kFilesInAFolder = 50;
-
-std::string DocumentName(int file) {
-  return "folder " + std::to_string(file / kFilesInAFolder) + "/part" + std::to_string(file) + ".CATPart";
-}
-
-// A working copy "car" of that many files, and the product of each: "car" is the root, all others are its
-// children.
+// A working copy of that many files, and the product of each.
 class WorkingCopy {
 public:
   explicit WorkingCopy(int files) {
-    std::map<std::string, std::string> contents{{"car.CATProduct", "car\n"}};
-    for (int file = 1; file < files; ++file) contents[DocumentName(file)] = "part\n";
     const SVNRepository repository(folder_ / "repository");
-    repository.Import(contents);
+    repository.Import(FileContents(files));
     repository.Checkout(Path());
 
-    assembly_.Add("car", "car/car.CATProduct");
-    for (int file = 1; file < files; ++file) {
-      const std::string name = "part" + std::to_string(file);
-      assembly_.Add(name, "car/" + DocumentName(file)).Place("car", name, name);
-    }
+    AddProducts(assembly_, files);
   }
 
   std::filesystem::path Path() const { return folder_ / "car"; }
