@@ -10,18 +10,18 @@
 namespace standin {
 namespace {
 
-ListenerSlot<std::wstring> slot;
+ListenerSlot<std::wstring> listenerSlot;
 
 }  // namespace
 
 void SetDebugListener(DebugListener listener) {
-  slot.Set(std::move(listener));
+  listenerSlot.Set(std::move(listener));
 }
 
 }  // namespace standin
 
 void OutputDebugStringW(LPCWSTR message) try {
-  standin::slot.Tell(message ? message : L"");
+  standin::listenerSlot.Tell(message ? message : L"");
 } catch (const std::bad_alloc&) {
   // Nobody listens.
 }

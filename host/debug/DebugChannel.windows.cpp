@@ -19,7 +19,7 @@ namespace {
 constexpr DWORD NarrowMessage = 0x40010006;
 constexpr DWORD WideMessage = 0x4001000A;
 
-ListenerSlot<std::wstring> slot;
+ListenerSlot<std::wstring> listenerSlot;
 
 template <typename Character>
 std::basic_string_view<Character> MessageText(const EXCEPTION_RECORD& record) {
@@ -32,9 +32,9 @@ bool Deliver(const EXCEPTION_RECORD& record) noexcept try {
   if (record.NumberParameters < 2) return false;
   switch (record.ExceptionCode) {
     case WideMessage:
-      return slot.Tell(std::wstring(MessageText<wchar_t>(record)));
+      return listenerSlot.Tell(std::wstring(MessageText<wchar_t>(record)));
     case NarrowMessage:
-      return slot.Tell(WideFromNative(MessageText<char>(record)));
+      return listenerSlot.Tell(WideFromNative(MessageText<char>(record)));
     default:
       return false;
   }
@@ -65,7 +65,7 @@ const Handler handler;
 }  // namespace
 
 void SetDebugListener(DebugListener listener) {
-  slot.Set(std::move(listener));
+  listenerSlot.Set(std::move(listener));
 }
 
 }  // namespace standin

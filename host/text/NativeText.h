@@ -7,6 +7,10 @@
 // Linux it is UTF-8 unless windows/CodePage.h sets another.
 namespace standin {
 
+// A byte B that is no part of a character is carried as the lone surrogate U+DC00 + B, which no well-formed
+// text holds.
+inline constexpr char32_t kByteEscape = 0xDC00;
+
 // Bytes that are no part of a character become one wide character each; on Linux these are
 // U+DC80..U+DCFF, which NativeFromWide turns back into the bytes they came from.
 std::wstring WideFromNative(std::string_view text);

@@ -9,9 +9,6 @@ namespace standin {
 namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
-// A byte B that is no part of a character is carried as the lone surrogate U+DC00 + B, which no
-// well-formed text holds.
-constexpr char32_t kByteEscape = 0xDC00;
 
 struct Decoded {
   char32_t Character;

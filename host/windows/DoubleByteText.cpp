@@ -8,12 +8,11 @@
 #include <system_error>
 
 #include "text/Characters.h"
+#include "text/NativeText.h"
 #include "windows/CodePage.h"
 
 namespace standin {
 namespace {
-
-constexpr wchar_t kByteEscape = 0xDC00;
 
 class Conversion {
 public:
@@ -60,7 +59,8 @@ std::wstring WideFromDoubleByte(std::string_view text) {
     } else if (conversion.Convert(character.data(), character.size(), &converted, sizeof(converted)) != 0) {
       wide += converted;
     } else {
-      for (const char byte : character) wide += kByteEscape + static_cast<unsigned char>(byte);
+      for (const char byte : character)
+        wide += static_cast<wchar_t>(kByteEscape + static_cast<unsigned char>(byte));
     }
   }
   return wide;
@@ -69,14 +69,15 @@ std::wstring WideFromDoubleByte(std::string_view text) {
 std::string DoubleByteFromWide(std::wstring_view text) {
   Conversion conversion(Name(), "WCHAR_T");
   std::string native;
-  for (const wchar_t character : text) {
+  for (const wchar_t wide : text) {
+    const auto character = static_cast<char32_t>(wide);
     std::array<char, 4> converted{};
     if (character < 0x80) {
       native += static_cast<char>(character);
     } else if (character >= kByteEscape && character <= kByteEscape + 0xFF) {
       native += static_cast<char>(static_cast<unsigned char>(character - kByteEscape));
     } else if (const std::size_t bytes =
-                   conversion.Convert(&character, sizeof(character), converted.data(), converted.size())) {
+                   conversion.Convert(&wide, sizeof(wide), converted.data(), converted.size())) {
       native.append(converted.data(), bytes);
     } else {
       native += '?';

@@ -1,6 +1,6 @@
 #include "support/Platform.h"
 
-const char pathListSeparator = ':';
+const char kPathListSeparator = ':';
 
 std::filesystem::path ExecutableFolder() {
   return std::filesystem::read_symlink("/proc/self/exe").parent_path();

@@ -4,7 +4,7 @@
 
 #include <array>
 
-const char pathListSeparator = ';';
+const char kPathListSeparator = ';';
 
 std::filesystem::path ExecutableFolder() {
   std::array<wchar_t, 4096> buffer{};

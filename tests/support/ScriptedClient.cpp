@@ -119,7 +119,7 @@ ScriptedClient::ScriptedClient(InstalledClients installed)
       log_("ZRK_CLIENT_LOG", (folder_ / logName).string()) {
   std::string path = clients_.string();
   if (installed == InstalledClients::Both) {
-    path += pathListSeparator + GetEnvironmentValue("PATH").value_or("");
+    path += kPathListSeparator + GetEnvironmentValue("PATH").value_or("");
   } else {
     fs::create_directory(clients_);
     if (installed == InstalledClients::CVSOnly) Install(clients_, "cvs.exe");

@@ -39,7 +39,7 @@ LookUp Find(const std::string& folders, const char* file) {
 std::string List(std::initializer_list<std::string> folders) {
   std::string list;
   for (const std::string& folder : folders)
-    list += (list.empty() ? "" : std::string(1, pathListSeparator)) + folder;
+    list += (list.empty() ? "" : std::string(1, kPathListSeparator)) + folder;
   return list;
 }
 
@@ -57,7 +57,7 @@ TEST(GetRuntimeFilePath, GivesTheFileOfTheFirstFolderThatHoldsIt) {
 TEST(GetRuntimeFilePath, SkipsEmptyFolders) {
   const TemporaryFolder folder;
   MakeProgram(folder / "cvs.exe");
-  const std::string separator(1, pathListSeparator);
+  const std::string separator(1, kPathListSeparator);
   const LookUp found = Find(separator + separator + folder.Path().string() + separator, "cvs.exe");
   EXPECT_EQ(found.Path, folder.Host() + "\\cvs.exe");
 }
@@ -67,7 +67,7 @@ TEST(GetRuntimeFilePath, DoesNotTakeAnEmptyFolderForTheCurrentOne) {
   MakeProgram(folder / "cvs.exe");
   const fs::path previous = fs::current_path();
   fs::current_path(folder.Path());
-  const LookUp found = Find(std::string(2, pathListSeparator), "cvs.exe");
+  const LookUp found = Find(std::string(2, kPathListSeparator), "cvs.exe");
   fs::current_path(previous);
   EXPECT_FALSE(found.Found);
 }

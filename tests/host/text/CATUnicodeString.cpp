@@ -1,4 +1,5 @@
 #include "CATUnicodeString.h"
+#include "support/Platform.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +9,6 @@
 namespace {
 
 // Where the 8-bit encoding is UTF-8; on Windows it is what the system is set to.
-constexpr bool kTextIsUtf8 = std::filesystem::path::preferred_separator == '/';
 
 std::string Bytes(const CATUnicodeString& text) {
   return text.ConvertToChar();

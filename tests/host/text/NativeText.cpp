@@ -1,12 +1,11 @@
 #include "text/NativeText.h"
+#include "support/Platform.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 
 namespace {
-
-constexpr bool kTextIsUtf8 = std::filesystem::path::preferred_separator == '/';
 
 using standin::CountCharacters;
 using standin::NativeFromUtf8;
