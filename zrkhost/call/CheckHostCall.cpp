@@ -23,7 +23,7 @@ namespace {
 
 constexpr auto kName = "check-host";
 
-struct Options {
+struct CheckHostOptions {
   std::optional<std::string> ProductPath;
   std::optional<std::string> SessionFile;
   std::optional<std::string> Folder;
@@ -45,7 +45,7 @@ SessionDescription SmallAssembly() {
   return session;
 }
 
-SessionDescription Describe(const Options& options) {
+SessionDescription Describe(const CheckHostOptions& options) {
   if (options.SessionFile) return ReadSessionFile(PathFromNative(*options.SessionFile));
   if (options.Folder) return SessionOfFolder(PathFromNative(*options.Folder), std::nullopt);
   return SmallAssembly();
@@ -76,7 +76,7 @@ void Show(void* context, const char* check, int result, const char* found) {
   std::cout << word << "  " << check << rest << "\n";
 }
 
-int Run(const Options& options) {
+int Run(const CheckHostOptions& options) {
   const HostCheck check(options.Library ? PathFromNative(*options.Library) : DefaultHostCheck());
   const HostSession session(Describe(options));
   const Place* const place = options.ProductPath ? session.Find(*options.ProductPath) : &session.Root();
@@ -97,7 +97,7 @@ bool IsCheckHostCall(int argc, char** argv) {
 }
 
 int RunCheckHostCall(int argc, char** argv) {
-  Options options;
+  CheckHostOptions options;
   CLI::App app(
       "Checks that a host behaves as the component library expects of it, here the one that zrkhost plays.\n"
       "Prints a table of the checks. Exit status: 0 when all hold, 1 when one fails or finds nothing to "

@@ -9,8 +9,6 @@ namespace zrkhost {
 
 namespace {
 
-using Json = nlohmann::json;
-
 // No file that means anything here comes near; a bound keeps later work from exhausting the stack.
 constexpr std::size_t kDeepest = 100;
 
@@ -19,7 +17,7 @@ constexpr std::size_t kDeepest = 100;
 }
 
 // Hears of everything in a text in order, and refuses what a parser would take without a word.
-class StrictReader : public nlohmann::json_sax<Json> {
+class StrictReader : public nlohmann::json_sax<nlohmann::json> {
 public:
   explicit StrictReader(const std::string& fileName) : fileName_(fileName) {}
 
@@ -44,7 +42,7 @@ public:
 
   // The parser proper tells about it, but for a number that is too large, of which it tells no place.
   bool parse_error(std::size_t, const std::string& token, const nlohmann::detail::exception& error) override {
-    if (dynamic_cast<const Json::out_of_range*>(&error)) {
+    if (dynamic_cast<const nlohmann::json::out_of_range*>(&error)) {
       FailAt(fileName_, Pointer(), "the number " + token + " is too large");
     }
     return false;
@@ -94,12 +92,12 @@ std::string WithoutIdentifier(const std::string& message) {
 
 }  // namespace
 
-Json ParseJson(const std::string& text, const std::string& fileName) {
+nlohmann::json ParseJson(const std::string& text, const std::string& fileName) {
   StrictReader reader(fileName);
-  Json::sax_parse(text, &reader);
+  nlohmann::json::sax_parse(text, &reader);
   try {
-    return Json::parse(text);
-  } catch (const Json::exception& error) {
+    return nlohmann::json::parse(text);
+  } catch (const nlohmann::json::exception& error) {
     throw CallError(fileName + ": not JSON: " + WithoutIdentifier(error.what()));
   }
 }
@@ -122,9 +120,10 @@ std::string PointerStep(std::size_t index) {
   return PointerStep(std::to_string(index));
 }
 
-JsonNode::JsonNode(const Json& value, std::string fileName) : JsonNode(value, std::move(fileName), "") {}
+JsonNode::JsonNode(const nlohmann::json& value, std::string fileName)
+    : JsonNode(value, std::move(fileName), "") {}
 
-JsonNode::JsonNode(const Json& value, std::string fileName, std::string pointer)
+JsonNode::JsonNode(const nlohmann::json& value, std::string fileName, std::string pointer)
     : value_(&value), fileName_(std::move(fileName)), pointer_(std::move(pointer)) {}
 
 void JsonNode::Fail(const std::string& what) const {

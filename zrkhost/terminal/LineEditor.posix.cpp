@@ -15,8 +15,6 @@ namespace zrkhost {
 
 namespace {
 
-constexpr int kStandardInput = 0;
-constexpr int kStandardError = 2;
 constexpr int kRememberedLines = 1000;
 
 // The choices below the line, in as many columns as fit.

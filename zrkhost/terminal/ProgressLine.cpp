@@ -11,7 +11,6 @@ namespace zrkhost {
 
 namespace {
 
-constexpr int kStandardError = 2;
 // Work that is done sooner leaves the screen alone.
 constexpr std::chrono::milliseconds kPatience(500);
 constexpr std::chrono::milliseconds kStep(250);

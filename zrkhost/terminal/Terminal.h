@@ -7,6 +7,9 @@ namespace zrkhost {
 // get what is written there.
 void HoldStandardError();
 
+inline constexpr int kStandardInput = 0;
+inline constexpr int kStandardError = 2;
+
 bool IsTerminal(int descriptor);
 // Columns; 0 when it is not known or not a terminal.
 int TerminalWidth(int descriptor);

@@ -10,11 +10,7 @@
 
 namespace zrkhost {
 
-namespace {
-
-constexpr int kStandardInput = 0;
-
-}  // namespace
+namespace {}  // namespace
 
 User::User(OutputCapture& output, ProgressLine& progress, std::optional<bool> answer)
     : output_(output), progress_(progress), answer_(answer) {
