@@ -6,14 +6,11 @@
 #include "support/Assembly.h"
 #include "support/CVSFolder.h"
 #include "support/Files.h"
+#include "support/HostText.h"
 
 namespace {
 
 using zrk::cvs::WorkingCopy;
-
-std::string Text(const CATUnicodeString& text) {
-  return text.ConvertToChar();
-}
 
 // "db" and "db2" are working copies with a database, "text" and "text2" such with text entries, "cvs" is one
 // of CVS, "plain" none.

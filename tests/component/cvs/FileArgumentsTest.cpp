@@ -7,6 +7,7 @@
 #include "support/Assembly.h"
 #include "support/CVSFolder.h"
 #include "support/Files.h"
+#include "support/HostText.h"
 #include "support/Session.h"
 
 using testing::ElementsAre;
@@ -15,10 +16,6 @@ using testing::Pair;
 using zrk::cvs::RelativePath;
 
 namespace {
-
-std::string Text(const CATUnicodeString& text) {
-  return text.ConvertToChar();
-}
 
 class NoProduct : public CATBaseUnknown {};
 

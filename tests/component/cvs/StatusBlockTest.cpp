@@ -2,6 +2,7 @@
 
 #include "cvs/StatusBlock.h"
 #include "support/ClientReports.h"
+#include "support/HostText.h"
 
 using zrk::cvs::ParseCVSStatusBlock;
 
@@ -11,10 +12,6 @@ ZRKCVSStatus Parsed(const std::string& block) {
   ZRKCVSStatus record;
   EXPECT_EQ(ParseCVSStatusBlock(block, record), 0);
   return record;
-}
-
-std::string Text(const CATUnicodeString& text) {
-  return text.ConvertToChar();
 }
 
 std::string FirstTag(const std::string& block) {

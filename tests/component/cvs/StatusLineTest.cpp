@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "cvs/StatusBlock.h"
+#include "support/HostText.h"
 
 using zrk::cvs::ParseCVSStatusLine;
 
@@ -10,10 +11,6 @@ ZRKCVSStatus Parsed(const char* line) {
   ZRKCVSStatus record;
   ParseCVSStatusLine(line, record);
   return record;
-}
-
-std::string Text(const CATUnicodeString& text) {
-  return text.ConvertToChar();
 }
 
 }  // namespace

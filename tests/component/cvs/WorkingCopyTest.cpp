@@ -6,14 +6,11 @@
 #include "support/BinaryFiles.h"
 #include "support/CVSFolder.h"
 #include "support/Files.h"
+#include "support/HostText.h"
 
 using zrk::cvs::WorkingCopy;
 
 namespace {
-
-std::string Text(const CATUnicodeString& text) {
-  return text.ConvertToChar();
-}
 
 class Discovery : public testing::Test {
 protected:

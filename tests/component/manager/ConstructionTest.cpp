@@ -6,12 +6,9 @@
 #include "support/DebugMessages.h"
 #include "support/DialogRecorder.h"
 #include "support/Files.h"
+#include "support/HostText.h"
 
 namespace {
-
-std::string Text(const CATUnicodeString& text) {
-  return text.ConvertToChar();
-}
 
 class NoProduct : public CATBaseUnknown {
 public:

@@ -6,14 +6,11 @@
 #include "component/svn/DatabaseStage.h"
 #include "manager/ZRKECVSManager.h"
 #include "support/DebugMessages.h"
+#include "support/HostText.h"
 
 namespace {
 
 using namespace reports;
-
-std::string Text(const CATUnicodeString& text) {
-  return text.ConvertToChar();
-}
 
 class DatabaseQuery : public DatabaseStage {
 protected:

@@ -9,14 +9,11 @@
 #include "support/DebugMessages.h"
 #include "support/DialogRecorder.h"
 #include "support/Files.h"
+#include "support/HostText.h"
 
 using testing::ElementsAre;
 
 namespace {
-
-std::string Text(const CATUnicodeString& text) {
-  return text.ConvertToChar();
-}
 
 // Through the interface, as the host calls it.
 class AQuery : public testing::Test, protected CVSStage {

@@ -5,12 +5,9 @@
 #include "support/CapturedOutput.h"
 #include "support/DebugMessages.h"
 #include "support/Files.h"
+#include "support/HostText.h"
 
 namespace {
-
-std::string Text(const CATUnicodeString& text) {
-  return text.ConvertToChar();
-}
 
 class ARefreshsWorkingCopy : public testing::Test, protected CVSStage {
 protected:

@@ -7,12 +7,9 @@
 #include "support/DebugMessages.h"
 #include "support/DialogRecorder.h"
 #include "support/Files.h"
+#include "support/HostText.h"
 
 namespace {
-
-std::string Text(const CATUnicodeString& text) {
-  return text.ConvertToChar();
-}
 
 // Nothing was run, written, shown or reported by a refresh.
 class NothingDone {

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "support/ClientReports.h"
+#include "support/HostText.h"
 
 namespace {
 
@@ -34,10 +35,6 @@ std::vector<std::string> Paths(const ReportedFiles& files) {
   for (const auto& [path, file] : files) paths.push_back(path);
   std::sort(paths.begin(), paths.end());
   return paths;
-}
-
-std::string Text(const CATUnicodeString& text) {
-  return text.ConvertToChar();
 }
 
 using Names = std::vector<std::string>;
