@@ -10,6 +10,11 @@
 
 using Json = nlohmann::json;
 
+// An assembly and one of its parts, in a folder of its own; the part's product.
+inline const std::string kCar = "Auto größe.CATProduct";
+inline const std::string kWheel = "Räder vorn/Rad links größe.CATPart";
+inline const std::string kWheelProduct = "\"" + kCar + "/" + kWheel + "\"";
+
 // A command's part of a report.
 inline const Json& CommandOf(const Json& report, std::size_t position = 0) {
   return report.at("commands").at(position);

@@ -13,8 +13,8 @@ const std::map<std::string, std::string> files = {{"car.CATProduct", "car\n"},
                                                   {"Türen/Tür rechts.CATPart", "door\n"},
                                                   {"motor/motor.CATProduct", "motor\n"},
                                                   {"motor/shaft & rod.CATPart", "shaft\n"}};
-const char* const left = "Türen/Tür links.CATPart";
-const char* const right = "Türen/Tür rechts.CATPart";
+const char* const kLeft = "Türen/Tür links.CATPart";
+const char* const kRight = "Türen/Tür rechts.CATPart";
 
 std::string SessionOn(const TemporaryFolder& folder, const std::filesystem::path& copy) {
   const Json session = {{"documents", copy.string()},
@@ -23,12 +23,12 @@ std::string SessionOn(const TemporaryFolder& folder, const std::filesystem::path
                          {{"car",
                            {{"document", "car.CATProduct"},
                             {"children",
-                             {{{"name", "Tür links.1"}, {"reference", "left"}},
-                              {{"name", "Tür rechts.1"}, {"reference", "right"}},
+                             {{{"name", "Tür links.1"}, {"reference", "kLeft"}},
+                              {{"name", "Tür rechts.1"}, {"reference", "kRight"}},
                               {{"name", "motor.1"}, {"reference", "motor"}},
                               {{"name", "screw.1"}, {"reference", "screw"}}}}}},
-                          {"left", {{"document", left}}},
-                          {"right", {{"document", right}}},
+                          {"kLeft", {{"document", kLeft}}},
+                          {"kRight", {{"document", kRight}}},
                           {"motor",
                            {{"document", "motor/motor.CATProduct"},
                             {"children", {{{"name", "shaft.1"}, {"reference", "shaft"}}}}}},
@@ -66,7 +66,7 @@ INSTANTIATE_TEST_SUITE_P(Of, CVSPage, testing::Values(""), [](const auto&) { ret
 TEST_P(CVSPage, ShowsWhatTheReportHolds) {
   CheckOut(files);
   CheckOutForBen();
-  BenEdits(left);
+  BenEdits(kLeft);
   const std::string page = folder_ / "page.html";
   const Json report =
       anna_.Host({SessionOn(folder_, annasCopy_), "-c", "refresh", "-c", "edit car/motor.1", "--page", page});
@@ -79,8 +79,8 @@ using SVNPage = SVNWorkingCopies;
 
 TEST_F(SVNPage, ShowsWhatTheReportHolds) {
   CheckOut(files);
-  repository_.Lock(bensCopy_ / left, "ben", "it sticks,\n<soon> & often");
-  repository_.Lock(bensCopy_ / right, "ben");
+  repository_.Lock(bensCopy_ / kLeft, "ben", "it sticks,\n<soon> & often");
+  repository_.Lock(bensCopy_ / kRight, "ben");
   const std::string page = folder_ / "page.html";
   const Json report =
       anna_.Host({SessionOn(folder_, annasCopy_), "-c", "refresh", "-c", "edit car/motor.1", "--page", page});

@@ -8,22 +8,18 @@ using testing::IsEmpty;
 using testing::SizeIs;
 using testing::StartsWith;
 
-const std::string car = "Auto größe.CATProduct";
-const std::string wheel = "Räder vorn/Rad links größe.CATPart";
-const std::string wheelProduct = "\"" + car + "/" + wheel + "\"";
-
 constexpr int refused = -2147467259;
 
 // The commands of zrkhost that change a working copy.
 class CVSEdit : public CVSWorkingCopies {
 protected:
-  CVSEdit() { CheckOut({{car, "car\n"}, {wheel, "wheel\n"}}); }
+  CVSEdit() { CheckOut({{kCar, "car\n"}, {kWheel, "wheel\n"}}); }
 
-  std::string Editors() const { return repository_.Editors(annasCopy_, wheel); }
+  std::string Editors() const { return repository_.Editors(annasCopy_, kWheel); }
 
   void AnnaEditsAndChanges() const {
-    Anna({"edit " + wheelProduct});
-    WriteFile(annasCopy_ / wheel, "changed\n");
+    Anna({"edit " + kWheelProduct});
+    WriteFile(annasCopy_ / kWheel, "changed\n");
   }
 
   // The only dialog of the call's only command.
@@ -36,118 +32,118 @@ protected:
 ZRK_THROUGH_BOTH_ROOTS(CVSEdit);
 
 TEST_P(CVSEdit, MakesAWatchedFileWritable) {
-  ASSERT_FALSE(IsWritable(annasCopy_ / wheel));
-  const Json report = Anna({"edit " + wheelProduct});
+  ASSERT_FALSE(IsWritable(annasCopy_ / kWheel));
+  const Json report = Anna({"edit " + kWheelProduct});
   EXPECT_EQ(CommandOf(report).at("result"), 0);
-  EXPECT_TRUE(IsWritable(annasCopy_ / wheel));
-  EXPECT_THAT(Editors(), StartsWith(wheel + "\t" + NameOf(anna_) + "\t"));
-  const Json attributes = AttributesByFile(report, annasCopy_).at(wheel);
+  EXPECT_TRUE(IsWritable(annasCopy_ / kWheel));
+  EXPECT_THAT(Editors(), StartsWith(kWheel + "\t" + NameOf(anna_) + "\t"));
+  const Json attributes = AttributesByFile(report, annasCopy_).at(kWheel);
   EXPECT_EQ(attributes.at("Status"), "Edit");
   EXPECT_EQ(attributes.at("Revision"), "1.1.1.1");
 }
 
 TEST_P(CVSEdit, ShowsTheFileLockedToTheOtherUser) {
   CheckOutForBen();
-  Anna({"edit " + wheelProduct});
+  Anna({"edit " + kWheelProduct});
   const auto attributes = AttributesByFile(Ben({"refresh"}), bensCopy_);
-  EXPECT_EQ(attributes.at(wheel).at("Status"), "Locked");
-  EXPECT_THAT(attributes.at(wheel).at("Comment"),
-              StartsWith(std::string(module) + "/" + wheel + "\n" + NameOf(anna_) + "\n"));
-  EXPECT_THAT(attributes.at(wheel).at("Comment"), EndsWith(annasParent_.string()));
-  EXPECT_EQ(attributes.at(car).at("Status"), "ReadOnly");
+  EXPECT_EQ(attributes.at(kWheel).at("Status"), "Locked");
+  EXPECT_THAT(attributes.at(kWheel).at("Comment"),
+              StartsWith(std::string(kModule) + "/" + kWheel + "\n" + NameOf(anna_) + "\n"));
+  EXPECT_THAT(attributes.at(kWheel).at("Comment"), EndsWith(annasParent_.string()));
+  EXPECT_EQ(attributes.at(kCar).at("Status"), "ReadOnly");
 }
 
 TEST_P(CVSEdit, IsRefusedWhileAnotherEdits) {
   CheckOutForBen();
-  BenEdits(wheel);
-  const Json report = Anna({"edit " + wheelProduct}, 1);
+  BenEdits(kWheel);
+  const Json report = Anna({"edit " + kWheelProduct}, 1);
   EXPECT_EQ(CommandOf(report).at("result"), 1);
-  EXPECT_THAT(Dialog(report).at("message"), HasSubstr(wheel + "' due to existing editors"));
-  EXPECT_FALSE(IsWritable(annasCopy_ / wheel));
+  EXPECT_THAT(Dialog(report).at("message"), HasSubstr(kWheel + "' due to existing editors"));
+  EXPECT_FALSE(IsWritable(annasCopy_ / kWheel));
 }
 
 TEST_P(CVSEdit, IsRefusedWithAWarningWhileThereIsANewerRevision) {
   CheckOutForBen();
-  repository_.Commit(bensCopy_, wheel, "newer\n");
-  const Json report = Anna({"edit " + wheelProduct}, 1);
+  repository_.Commit(bensCopy_, kWheel, "newer\n");
+  const Json report = Anna({"edit " + kWheelProduct}, 1);
   EXPECT_EQ(CommandOf(report).at("result"), refused);
   EXPECT_EQ(CommandOf(report).at("output"), "do update first\n");
   EXPECT_THAT(Dialog(report).at("message"),
-              HasSubstr("newer version of " + std::string(module) + "/" + wheel));
-  EXPECT_FALSE(IsWritable(annasCopy_ / wheel));
+              HasSubstr("newer version of " + std::string(kModule) + "/" + kWheel));
+  EXPECT_FALSE(IsWritable(annasCopy_ / kWheel));
   EXPECT_THAT(Editors(), IsEmpty());
 }
 
 TEST_P(CVSEdit, GivesAnUnchangedFileBackReadOnly) {
-  Anna({"edit " + wheelProduct});
-  const Json report = Anna({"unedit " + wheelProduct});
+  Anna({"edit " + kWheelProduct});
+  const Json report = Anna({"unedit " + kWheelProduct});
   EXPECT_EQ(CommandOf(report).at("result"), 0);
   EXPECT_THAT(EventsOf(CommandOf(report), "dialog"), IsEmpty());
-  EXPECT_FALSE(IsWritable(annasCopy_ / wheel));
+  EXPECT_FALSE(IsWritable(annasCopy_ / kWheel));
   EXPECT_THAT(Editors(), IsEmpty());
-  EXPECT_EQ(AttributesByFile(report, annasCopy_).at(wheel).at("Status"), "ReadOnly");
+  EXPECT_EQ(AttributesByFile(report, annasCopy_).at(kWheel).at("Status"), "ReadOnly");
 }
 
 TEST_P(CVSEdit, GivesAChangedFileBackWithTheRepositorysText) {
   AnnaEditsAndChanges();
   const Json report =
-      anna_.Host({"--folder", annasCopy_.string(), "--answer", "yes", "-c", "unedit " + wheelProduct});
+      anna_.Host({"--folder", annasCopy_.string(), "--answer", "yes", "-c", "unedit " + kWheelProduct});
   EXPECT_EQ(CommandOf(report).at("result"), 0);
-  EXPECT_THAT(Dialog(report).at("message"), HasSubstr(wheel));
+  EXPECT_THAT(Dialog(report).at("message"), HasSubstr(kWheel));
   EXPECT_TRUE(anna_.WaitUntilNoProcessIsLeft());
-  EXPECT_EQ(ReadFile(annasCopy_ / wheel), "wheel\n");
-  EXPECT_FALSE(IsWritable(annasCopy_ / wheel));
+  EXPECT_EQ(ReadFile(annasCopy_ / kWheel), "wheel\n");
+  EXPECT_FALSE(IsWritable(annasCopy_ / kWheel));
   EXPECT_THAT(Editors(), IsEmpty());
-  EXPECT_EQ(AttributesByFile(report, annasCopy_).at(wheel).at("Status"), "ReadOnly");
+  EXPECT_EQ(AttributesByFile(report, annasCopy_).at(kWheel).at("Status"), "ReadOnly");
 }
 
 TEST_P(CVSEdit, KeepsAChangedFileThatIsNotToBeReverted) {
   AnnaEditsAndChanges();
   const Json report =
-      anna_.Host({"--folder", annasCopy_.string(), "--answer", "no", "-c", "unedit " + wheelProduct}, 1);
+      anna_.Host({"--folder", annasCopy_.string(), "--answer", "no", "-c", "unedit " + kWheelProduct}, 1);
   EXPECT_EQ(CommandOf(report).at("result"), 1);
   EXPECT_EQ(Dialog(report).at("answer"), 4);
   EXPECT_TRUE(anna_.WaitUntilNoProcessIsLeft());
-  EXPECT_EQ(ReadFile(annasCopy_ / wheel), "changed\n");
-  EXPECT_TRUE(IsWritable(annasCopy_ / wheel));
-  EXPECT_THAT(Editors(), StartsWith(wheel + "\t" + NameOf(anna_) + "\t"));
+  EXPECT_EQ(ReadFile(annasCopy_ / kWheel), "changed\n");
+  EXPECT_TRUE(IsWritable(annasCopy_ / kWheel));
+  EXPECT_THAT(Editors(), StartsWith(kWheel + "\t" + NameOf(anna_) + "\t"));
 }
 
 TEST_P(CVSEdit, OfAFileThatIsNotTakenIsNotGivenBack) {
   CheckOutForBen();
-  BenEdits(wheel);
-  const Json report = Anna({"unedit " + wheelProduct}, 1);
+  BenEdits(kWheel);
+  const Json report = Anna({"unedit " + kWheelProduct}, 1);
   EXPECT_EQ(CommandOf(report).at("result"), refused);
-  EXPECT_THAT(repository_.Editors(bensCopy_, wheel), StartsWith(wheel + "\t" + NameOf(ben_) + "\t"));
+  EXPECT_THAT(repository_.Editors(bensCopy_, kWheel), StartsWith(kWheel + "\t" + NameOf(ben_) + "\t"));
 }
 
 TEST_P(CVSEdit, SchedulesARemoval) {
-  const Json report = Anna({"remove \"" + (annasCopy_ / wheel).string() + "\""});
+  const Json report = Anna({"remove \"" + (annasCopy_ / kWheel).string() + "\""});
   EXPECT_EQ(CommandOf(report).at("result"), 0);
-  EXPECT_FALSE(std::filesystem::exists(annasCopy_ / wheel));
+  EXPECT_FALSE(std::filesystem::exists(annasCopy_ / kWheel));
   EXPECT_EQ(RunCommandOrThrow({"cvs", "-n", "-q", "update"},
                               {.Folder = annasCopy_, .Input = "", .Environment = {}}),
-            "R " + wheel + "\n");
+            "R " + kWheel + "\n");
 }
 
 TEST_P(CVSEdit, AsksTheClientAboutOneFile) {
   repository_.Tag(annasCopy_, "RELEASE-1");
-  const Json record = CommandOf(Anna({"status " + wheelProduct})).at("record");
+  const Json record = CommandOf(Anna({"status " + kWheelProduct})).at("record");
   // The reader leaves out the blanks of the name and keeps the line's carriage return.
   EXPECT_EQ(record.at("File"), "Radlinksgröße.CATPart\t");
   EXPECT_EQ(record.at("Status"), "Up-to-date\r");
   EXPECT_EQ(record.at("WorkingRevision"), "1.1.1.1");
   EXPECT_EQ(record.at("RepositoryRevision"),
-            "1.1.1.1" + repository_.LocalRoot() + "/" + module + "/" + wheel + ",v");
+            "1.1.1.1" + repository_.LocalRoot() + "/" + kModule + "/" + kWheel + ",v");
   EXPECT_THAT(record.at("ExistingTags"), StartsWith("RELEASE-1 "));
 }
 
 TEST_P(CVSEdit, ShowsTheAdaptersWordWhereThereIsNoClient) {
   anna_.Set("PATH", folder_.Path().string());
-  const Json report = Anna({"edit " + wheelProduct}, 1);
+  const Json report = Anna({"edit " + kWheelProduct}, 1);
   EXPECT_EQ(CommandOf(report).at("result"), 1);
   EXPECT_THAT(Dialog(report).at("message"), StartsWith("cvs.exe: the program \"cvs\" is not on the PATH"));
-  EXPECT_FALSE(IsWritable(annasCopy_ / wheel));
+  EXPECT_FALSE(IsWritable(annasCopy_ / kWheel));
 }
 
 TEST_P(CVSEdit, FindsNothingInARefreshWhereThereIsNoClient) {
@@ -160,7 +156,7 @@ TEST_P(CVSEdit, FindsNothingInARefreshWhereThereIsNoClient) {
 
 TEST_P(CVSEdit, TellsThatThereIsNoClientForTheHost) {
   const Json report =
-      anna_.Host({"--folder", annasCopy_.string(), "--clients", "none", "-c", "edit " + wheelProduct}, 1);
+      anna_.Host({"--folder", annasCopy_.string(), "--clients", "none", "-c", "edit " + kWheelProduct}, 1);
   EXPECT_EQ(CommandOf(report).at("result"), refused);
   EXPECT_THAT(EventsOf(CommandOf(report), "launch"), IsEmpty());
   EXPECT_THAT(EventsOf(CommandOf(report), "dialog"), SizeIs(1));

@@ -37,7 +37,7 @@ TEST_P(CVSRefresh, GivesEveryFileOfALargeTreeTheAttributesThatTheClientTells) {
   for (int folder = 0; folder < 20; ++folder) {
     for (int number = 0; number < 10; ++number) files[Part(folder, number)] = "part\n";
   }
-  fs::create_directories(fs::path(repository_.LocalRoot()) / module / "leerer Ordner");
+  fs::create_directories(fs::path(repository_.LocalRoot()) / kModule / "leerer Ordner");
   CheckOut(files);
   CheckOutForBen();
   ASSERT_TRUE(fs::exists(annasCopy_ / "leerer Ordner/CVS"));

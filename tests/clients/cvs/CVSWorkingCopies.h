@@ -17,11 +17,11 @@ class CVSWorkingCopies : public testing::TestWithParam<const char*> {
 protected:
   // The keys are paths below the module.
   void CheckOut(const std::map<std::string, std::string>& files) {
-    repository_.Import(module, files);
-    repository_.WatchOn(module);
-    repository_.Checkout(module, annasParent_, Root());
+    repository_.Import(kModule, files);
+    repository_.WatchOn(kModule);
+    repository_.Checkout(kModule, annasParent_, Root());
   }
-  void CheckOutForBen() { repository_.Checkout(module, bensParent_, Root()); }
+  void CheckOutForBen() { repository_.Checkout(kModule, bensParent_, Root()); }
 
   // No client is left behind, whatever the test did.
   void TearDown() override {
@@ -46,14 +46,14 @@ protected:
   // Has Ben take the file for editing with his client.
   void BenEdits(const std::string& file) const { repository_.Edit(bensCopy_, file, ben_.Name()); }
 
-  static constexpr const char* module = "Straßen räder";
+  static constexpr const char* kModule = "Straßen räder";
 
   TemporaryFolder folder_;
   CVSRepository repository_{folder_ / "repository"};
   const std::filesystem::path annasParent_ = folder_ / "ännas documents";
-  const std::filesystem::path annasCopy_ = annasParent_ / module;
+  const std::filesystem::path annasCopy_ = annasParent_ / kModule;
   const std::filesystem::path bensParent_ = folder_ / "bens documents";
-  const std::filesystem::path bensCopy_ = bensParent_ / module;
+  const std::filesystem::path bensCopy_ = bensParent_ / kModule;
   User anna_{"anna", folder_ / "anna"};
   User ben_{"ben", folder_ / "ben"};
 };

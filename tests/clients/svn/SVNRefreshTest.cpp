@@ -7,18 +7,16 @@ using testing::ElementsAre;
 using testing::Pair;
 using testing::SizeIs;
 
-const std::string car = "Auto größe.CATProduct";
-
 class SVNRefresh : public SVNWorkingCopies {
 protected:
   // One file, beside the car.
-  void CheckOutWheel() { CheckOut({{car, "car\n"}, {wheel_, "wheel\n"}}); }
+  void CheckOutWheel() { CheckOut({{kCar, "car\n"}, {wheel_, "wheel\n"}}); }
 
   const std::string wheel_ = "Räder vorn/Rad links größe.CATPart";
 };
 
 TEST_F(SVNRefresh, GivesEveryFileOfATreeTheAttributesThatTheClientTells) {
-  std::map<std::string, std::string> files = {{car, "car\n"}};
+  std::map<std::string, std::string> files = {{kCar, "car\n"}};
   for (const std::string folder : {"", "Räder vorn/", "Räder vorn/tief unten/", "a@b/", "Tür links/"}) {
     for (const char* name : {"Teil 1 ß.CATPart", "Teil@2.CATPart", "Teil 3.CATPart", "Teil 4.CATPart"}) {
       files[folder + name] = "part\n";
@@ -33,7 +31,7 @@ TEST_F(SVNRefresh, GivesEveryFileOfATreeTheAttributesThatTheClientTells) {
   repository_.Lock(bensCopy_ / "Räder vorn/Teil 3.CATPart", "ben", "line 1\nline 2");
   repository_.Lock(bensCopy_ / "a@b/Teil@2.CATPart", "ben hur", "it is \"mine\"");
   repository_.Lock(annasCopy_ / "Räder vorn/tief unten/Teil 1 ß.CATPart", "anna", "\\ back");
-  repository_.Lock(annasCopy_ / car, "anna");
+  repository_.Lock(annasCopy_ / kCar, "anna");
   const std::string unknown = "Tür links/kein Teil.CATPart";
   WriteFile(annasCopy_ / unknown, "unknown\n");
 
