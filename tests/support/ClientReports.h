@@ -33,9 +33,18 @@ inline std::string StatusBlock(const std::string& repositoryFile, const std::str
          tagLines;
 }
 
+// What `cvs unedit` asks of a file that was changed, without a line end.
+inline constexpr const char* kRevertQuestion = "car.CATPart has been modified; revert changes? ";
+
 // What stands before each block.
 inline constexpr const char* kSeparatorLine =
     "===================================================================\r\n";
+
+// A block of one tag as it stands in a report.
+inline std::string ReportBlock(const std::string& repositoryFile, const std::string& revision) {
+  return kSeparatorLine +
+         StatusBlock(repositoryFile, revision, "Up-to-date", {"release-2 \t(revision: 1.4)"});
+}
 
 }  // namespace zrk::sample
 

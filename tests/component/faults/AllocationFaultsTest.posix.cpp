@@ -61,7 +61,7 @@ std::vector<NamedOperation> Named() {
   return named;
 }
 
-std::string CaseName(const testing::TestParamInfo<NamedOperation>& info) {
+std::string OperationName(const testing::TestParamInfo<NamedOperation>& info) {
   return info.param.Wanted.Name;
 }
 
@@ -94,6 +94,6 @@ TEST(AFailedAllocation, DuringARefreshDoesNotKeepTheNextFromBeingComplete) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(, EveryAllocation, testing::ValuesIn(Named()), CaseName);
+INSTANTIATE_TEST_SUITE_P(, EveryAllocation, testing::ValuesIn(Named()), OperationName);
 
 }  // namespace faults

@@ -1,4 +1,5 @@
 #include "component/faults/FaultedOperations.h"
+#include "support/ClientReports.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +10,6 @@ namespace {
 
 using standin::DialogAnswer;
 
-constexpr char kQuestion[] = "car.CATPart has been modified; revert changes? ";
 constexpr char kForeignLock[] = "     O           12        9 bert         car.CATPart\r\n";
 
 void TakeForEditing(FaultStage& stage) {
@@ -148,7 +148,7 @@ Operation UneditWithTheQuestion(bool agree) {
                         TakeForEditing(stage);
                         stage.AnswerQuestions({DialogAnswer::Yes});
                         stage.Clients.When("status -v").Out(FaultStage::StatusReport());
-                        stage.Clients.When("unedit").Out(kQuestion).ReadAll();
+                        stage.Clients.When("unedit").Out(zrk::sample::kRevertQuestion).ReadAll();
                       },
                       [](FaultStage& stage) { return stage.Manager().Unedit(); },
                       [](const FaultStage& stage, HRESULT result, const Loss& loss) {
@@ -167,7 +167,7 @@ Operation UneditWithTheQuestion(bool agree) {
     TakeForEditing(stage);
     stage.AnswerQuestions({DialogAnswer::No});
     stage.Clients.When("status -v").Out(FaultStage::StatusReport());
-    stage.Clients.When("unedit").Out(kQuestion).ReadAll();
+    stage.Clients.When("unedit").Out(zrk::sample::kRevertQuestion).ReadAll();
   };
   operation.Expect = [](const FaultStage& stage, HRESULT result, const Loss& loss) {
     const bool asked = loss.Run != 2;

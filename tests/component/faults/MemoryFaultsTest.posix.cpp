@@ -122,7 +122,7 @@ protected:
   }
 };
 
-std::string CaseName(const testing::TestParamInfo<Call>& info) {
+std::string CallName(const testing::TestParamInfo<Call>& info) {
   return info.param.Name;
 }
 
@@ -135,6 +135,6 @@ TEST_P(EveryCall, EndsWhenTheMemoryRunsOut) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(, EveryCall, testing::ValuesIn(kCalls), CaseName);
+INSTANTIATE_TEST_SUITE_P(, EveryCall, testing::ValuesIn(kCalls), CallName);
 
 }  // namespace faults

@@ -9,6 +9,7 @@
 #include <thread>
 
 #include "component/faults/FaultStage.h"
+#include "support/ClientReports.h"
 #include "support/Files.h"
 #include "windows/WindowsControl.h"
 
@@ -16,8 +17,6 @@ namespace faults {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr char kQuestion[] = "car.CATPart has been modified; revert changes? ";
 
 std::vector<pid_t> Children() {
   std::vector<pid_t> children;
@@ -115,7 +114,7 @@ TEST_F(MisbehavingClient, ThatClosesItsOutputAndReadsSeesTheEndOfItsInputWhenThe
 TEST_F(MisbehavingClient, ThatHangsBehindItsQuestionUntilItsInputEndsIsAnsweredAndLeftToEnd) {
   WriteStatusAttributes(Stage.Car(), {"1.3", "Edit", "", ""});
   Stage.Clients.When("status -v").Out(FaultStage::StatusReport());
-  Stage.Clients.When("unedit").Out(kQuestion).Hang();
+  Stage.Clients.When("unedit").Out(zrk::sample::kRevertQuestion).Hang();
   Stage.AnswerQuestions({standin::DialogAnswer::Yes});
   EXPECT_EQ(Stage.Manager().Unedit(), S_OK);
   EXPECT_EQ(Stage.Launches(), 5);
@@ -125,7 +124,7 @@ TEST_F(MisbehavingClient, ThatHangsBehindItsQuestionUntilItsInputEndsIsAnsweredA
 TEST_F(MisbehavingClient, ThatIsKilledWhileTheUserIsAskedIsAnsweredInVain) {
   WriteStatusAttributes(Stage.Car(), {"1.3", "Edit", "", ""});
   Stage.Clients.When("status -v").Out(FaultStage::StatusReport());
-  Stage.Clients.When("unedit").Out(kQuestion).CloseInput().Crash();
+  Stage.Clients.When("unedit").Out(zrk::sample::kRevertQuestion).CloseInput().Crash();
   Stage.AnswerQuestions({standin::DialogAnswer::Yes});
   EXPECT_EQ(Stage.Manager().Unedit(), S_OK);
   EXPECT_EQ(Stage.Shown(), (StatusAttributes{"1.4", "Edit", "", ""}));

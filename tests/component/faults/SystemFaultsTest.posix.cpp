@@ -31,12 +31,12 @@ void PrintTo(const NamedCall& call, std::ostream* stream) {
   *stream << call.Name;
 }
 
-constexpr NamedCall kCalls[] = {{"CreatePipe", WindowsCall::CreatePipe},
-                                {"SetHandleInformation", WindowsCall::SetHandleInformation},
-                                {"CreateProcess", WindowsCall::CreateProcess},
-                                {"ReadFile", WindowsCall::ReadFile},
-                                {"WriteFile", WindowsCall::WriteFile},
-                                {"CloseHandle", WindowsCall::CloseHandle}};
+constexpr NamedCall kWindowsCalls[] = {{"CreatePipe", WindowsCall::CreatePipe},
+                                       {"SetHandleInformation", WindowsCall::SetHandleInformation},
+                                       {"CreateProcess", WindowsCall::CreateProcess},
+                                       {"ReadFile", WindowsCall::ReadFile},
+                                       {"WriteFile", WindowsCall::WriteFile},
+                                       {"CloseHandle", WindowsCall::CloseHandle}};
 
 using Messages = std::vector<std::wstring>;
 
@@ -167,7 +167,7 @@ protected:
   int closingsTold_ = 0;
 };
 
-std::string CaseName(const testing::TestParamInfo<EveryFault::ParamType>& info) {
+std::string FaultName(const testing::TestParamInfo<EveryFault::ParamType>& info) {
   return std::get<0>(info.param).Name + "_" + std::get<1>(info.param).Name;
 }
 
@@ -189,7 +189,7 @@ TEST_P(EveryFault, EndsWithThePromisedResultAndMessagesAndLeavesNothingBehind) {
 }
 
 INSTANTIATE_TEST_SUITE_P(, EveryFault,
-                         testing::Combine(testing::ValuesIn(Operations()), testing::ValuesIn(kCalls)),
-                         CaseName);
+                         testing::Combine(testing::ValuesIn(Operations()), testing::ValuesIn(kWindowsCalls)),
+                         FaultName);
 
 }  // namespace faults

@@ -139,9 +139,9 @@ TEST_P(RefreshTimesCount, TheseStepsIntoOneMessageAlone) {
   }
 }
 
-const auto kName = [](const auto& row) { return row.param.Name; };
-INSTANTIATE_TEST_SUITE_P(Route, RefreshTimesOf, testing::ValuesIn(kRoutes), kName);
-INSTANTIATE_TEST_SUITE_P(Steps, RefreshTimesCount, testing::ValuesIn(kSteps), kName);
+const auto kRowName = [](const auto& row) { return row.param.Name; };
+INSTANTIATE_TEST_SUITE_P(Route, RefreshTimesOf, testing::ValuesIn(kRoutes), kRowName);
+INSTANTIATE_TEST_SUITE_P(Steps, RefreshTimesCount, testing::ValuesIn(kSteps), kRowName);
 
 TEST_F(RefreshTimes, OfAManagerThatHasRefreshedNothingAreZero) {
   const ZRKECVSManager& manager = ManagerOf("TextEntries");

@@ -16,30 +16,30 @@ protected:
   Launches launches_;
 };
 
-using Lines = std::vector<std::wstring>;
+using WideLines = std::vector<std::wstring>;
 
 }  // namespace
 
 TEST_F(OperationCommandLines, OfEdit) {
   Manager().Edit();
-  EXPECT_EQ(Launched(), (Lines{L" -d /cvs/root -n -q update \"proj\\sub\\car body.CATProduct\"",
-                               L" -d /cvs/root -q -x edit -z -c \"proj\\sub\\car body.CATProduct\"",
-                               L" -d /cvs/root  status -v \"proj\\sub\\car body.CATProduct\""}));
+  EXPECT_EQ(Launched(), (WideLines{L" -d /cvs/root -n -q update \"proj\\sub\\car body.CATProduct\"",
+                                   L" -d /cvs/root -q -x edit -z -c \"proj\\sub\\car body.CATProduct\"",
+                                   L" -d /cvs/root  status -v \"proj\\sub\\car body.CATProduct\""}));
 }
 
 TEST_F(OperationCommandLines, OfUnedit) {
   Client.When("status -v").Out(StatusReport());
   Manager().Unedit();
-  EXPECT_EQ(Launched(), (Lines{L" -d /cvs/root  status -v  \"proj\\sub\\car body.CATProduct\"",
-                               L" -d /cvs/root  -n edit  \"proj\\sub\\car body.CATProduct\"",
-                               L" -d /cvs/root -q -x unedit \"proj\\sub\\car body.CATProduct\"",
-                               L" -d /cvs/root  status -v  \"proj\\sub\\car body.CATProduct\"",
-                               L" -d /cvs/root  -n edit  \"proj\\sub\\car body.CATProduct\""}));
+  EXPECT_EQ(Launched(), (WideLines{L" -d /cvs/root  status -v  \"proj\\sub\\car body.CATProduct\"",
+                                   L" -d /cvs/root  -n edit  \"proj\\sub\\car body.CATProduct\"",
+                                   L" -d /cvs/root -q -x unedit \"proj\\sub\\car body.CATProduct\"",
+                                   L" -d /cvs/root  status -v  \"proj\\sub\\car body.CATProduct\"",
+                                   L" -d /cvs/root  -n edit  \"proj\\sub\\car body.CATProduct\""}));
 }
 
 TEST_F(OperationCommandLines, OfCVSRemove) {
   Manager().CVSRoot = "R";
   Manager().CVSRemove(Folder.Host("a.txt").c_str());
-  EXPECT_EQ(Launched(), Lines{L" -d R  -d R remove -f \"a.txt\""});
+  EXPECT_EQ(Launched(), WideLines{L" -d R  -d R remove -f \"a.txt\""});
   EXPECT_EQ(launches_.All()[0].Folder, CATUnicodeString(Folder.Host().c_str()).ConvertToWideChar());
 }

@@ -20,20 +20,20 @@ namespace {
 
 // U+30BD and U+8868 in code page 932.
 constexpr char kFolder[] = "\x83\\";
-constexpr char kName[] = "part \x95\\";
+constexpr char kDoubleByteName[] = "part \x95\\";
 
 class DoubleByteNames : public testing::Test {
 protected:
   void SetUp() override {
     if (!JapaneseCodePage::IsActive()) GTEST_SKIP() << "the system's code page is not 932";
-    Products.Add("part", standin::FilePath(std::string("w\\") + kFolder + "\\" + kName));
+    Products.Add("part", standin::FilePath(std::string("w\\") + kFolder + "\\" + kDoubleByteName));
   }
 
   ZRKICVSManager_var Manager() const { return Products.At("part"); }
   std::filesystem::path DocumentFolder() const {
     return Folder / standin::FilePath(std::string("w\\") + kFolder);
   }
-  std::string Document() const { return HostFolder() + "\\" + kName; }
+  std::string Document() const { return HostFolder() + "\\" + kDoubleByteName; }
   std::string HostFolder() const { return Folder.Host("w") + "\\" + kFolder; }
 
   std::string Revision() const {
@@ -69,11 +69,11 @@ protected:
         .Out(
             "File: part\tStatus: Up-to-date\r\n   Working revision:\t1.4\r\n"
             "   Repository revision:\t1.4\t/cvs/root/" +
-            std::string(kFolder) + "/" + kName + ",v\r\n");
+            std::string(kFolder) + "/" + kDoubleByteName + ",v\r\n");
   }
 
   static std::string Command(const std::string& command) {
-    return "-d /cvs/root " + command + " " + kFolder + "\\" + kName;
+    return "-d /cvs/root " + command + " " + kFolder + "\\" + kDoubleByteName;
   }
 };
 
@@ -83,7 +83,7 @@ protected:
     DoubleByteNames::SetUp();
     if (IsSkipped()) return;
     WriteFile(DocumentFolder() / ".svn" / "entries",
-              entries::Format(10) + entries::Folder("12") + entries::File(10, kName, "9", "bert"));
+              entries::Format(10) + entries::Folder("12") + entries::File(10, kDoubleByteName, "9", "bert"));
     runFolder_ = HostFolder();
   }
 };
@@ -133,8 +133,8 @@ TEST_F(DoubleByteNamesInCVS, AreTakenForEditing) {
 TEST_F(DoubleByteNamesInCVS, AreGivenBack) {
   SetWritable(standin::FilePath(Document()));
   const DialogRecorder user({standin::DialogAnswer::Yes});
-  Client.When("-n edit").Out(std::string(kFolder) + "/" + kName + "\tanna\tnow\there\r\n");
-  Client.When("unedit").Out(std::string(kName) + " has been modified; revert changes? ").Read();
+  Client.When("-n edit").Out(std::string(kFolder) + "/" + kDoubleByteName + "\tanna\tnow\there\r\n");
+  Client.When("unedit").Out(std::string(kDoubleByteName) + " has been modified; revert changes? ").Read();
   EXPECT_EQ(Manager()->Unedit(), 0);
   const Texts check{Command("status -v"), Command("-n edit")};
   EXPECT_EQ(Runs(), (Texts{check[0], check[1], Command("-q -x unedit"), check[0], check[1]}));
@@ -144,7 +144,7 @@ TEST_F(DoubleByteNamesInCVS, AreGivenBack) {
 TEST_F(DoubleByteNamesInCVS, AreRemoved) {
   runFolder_ = HostFolder();
   EXPECT_EQ(Manager()->CVSRemove(Document().c_str()), 0);
-  EXPECT_EQ(Runs(), Texts{std::string("-d /cvs/root -d /cvs/root remove -f ") + kName});
+  EXPECT_EQ(Runs(), Texts{std::string("-d /cvs/root -d /cvs/root remove -f ") + kDoubleByteName});
 }
 
 TEST_F(DoubleByteNamesInSubversion, AreRefreshed) {
@@ -181,7 +181,7 @@ TEST_F(DoubleByteNamesInADatabase, AreQueried) {
   Manager()->GetFileStatus(CATIProduct_var(Products.At("part")), record);
   EXPECT_EQ(Runs(), Texts{StatusOfFile()});
   EXPECT_EQ(record.WorkingRevision, "9");
-  EXPECT_EQ(record.File, kName);
+  EXPECT_EQ(record.File, kDoubleByteName);
 }
 
 TEST_F(DoubleByteNamesInADatabase, AreLocked) {

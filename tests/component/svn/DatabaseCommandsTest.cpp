@@ -16,7 +16,7 @@ namespace {
 using zrk::svn::DatabaseCommand;
 using zrk::svn::LaunchFolder;
 
-using Lines = std::vector<std::wstring>;
+using WideLines = std::vector<std::wstring>;
 
 class DatabaseCommands : public DatabaseStage {
 protected:
@@ -26,8 +26,8 @@ protected:
   std::wstring Path() const { return Wide(Folder.Host(Document)); }
   ZRKICVSManager_var Manager() const { return Products.At("car"); }
   // Of the launches so far, each of svn.exe in that folder.
-  Lines LinesIn(const std::string& folder) const {
-    Lines lines;
+  WideLines LinesIn(const std::string& folder) const {
+    WideLines lines;
     for (const standin::Launch& launch : Launched.All()) {
       EXPECT_EQ(launch.Program, Wide(Client.HostPath("svn.exe")));
       EXPECT_EQ(launch.Folder, Wide(Folder.Host(folder)));
@@ -43,7 +43,7 @@ protected:
 
 TEST_F(DatabaseCommands, OfARefreshNameNoPath) {
   Manager()->RefreshStatus(Products.At("car"));
-  EXPECT_EQ(LinesIn("wc/front axle"), (Lines{L" status -v -u --xml --non-interactive --ignore-externals",
+  EXPECT_EQ(LinesIn("wc/front axle"), (WideLines{L" status -v -u --xml --non-interactive --ignore-externals",
                                              L" status -v --xml --non-interactive --ignore-externals"}));
 }
 
@@ -52,14 +52,14 @@ TEST_F(DatabaseCommands, OfALock) {
   Manager()->Edit();
   EXPECT_EQ(
       LinesIn("wc/front axle"),
-      (Lines{L" update --non-interactive \"" + Path() + L"\"", L" lock --non-interactive \"" + Path() + L"\"",
+      (WideLines{L" update --non-interactive \"" + Path() + L"\"", L" lock --non-interactive \"" + Path() + L"\"",
              L" status -v -u --xml --non-interactive --ignore-externals \"" + Path() + L"\""}));
 }
 
 TEST_F(DatabaseCommands, OfAnUnlock) {
   Manager()->Unedit();
   EXPECT_EQ(LinesIn("wc/front axle"),
-            (Lines{L" unlock --non-interactive \"" + Path() + L"\"",
+            (WideLines{L" unlock --non-interactive \"" + Path() + L"\"",
                    L" status -v -u --xml --non-interactive --ignore-externals \"" + Path() + L"\"",
                    L" status -v --xml --non-interactive --ignore-externals \"" + Path() + L"\""}));
 }
@@ -68,7 +68,7 @@ TEST_F(DatabaseCommands, OfADeletionRunInTheFilesOwnFolder) {
   std::filesystem::create_directories(Folder / "wc/other");
   const std::string file = Folder.Host("wc/other/old part.CATPart");
   EXPECT_EQ(Manager()->SVNDelete(file.c_str()), S_OK);
-  EXPECT_EQ(LinesIn("wc/other"), Lines{L" delete --force --non-interactive \"" + Wide(file) + L"\""});
+  EXPECT_EQ(LinesIn("wc/other"), WideLines{L" delete --force --non-interactive \"" + Wide(file) + L"\""});
   EXPECT_TRUE(Redrawn.Paths().empty());
 }
 
@@ -107,7 +107,7 @@ TEST_F(DatabaseCommands, CloseAPathThatHoldsAnAtWithOneMore) {
   manager->Edit();
   manager->Unedit();
   manager->SVNDelete(Folder.Host("wc/a@b/wheel@2.CATPart").c_str());
-  const Lines lines = LinesIn("wc/a@b");
+  const WideLines lines = LinesIn("wc/a@b");
   EXPECT_EQ(lines.size(), 8U);
   for (const std::wstring& line : lines) EXPECT_TRUE(line.ends_with(L" \"" + path + L"\""));
 }

@@ -9,6 +9,7 @@
 #include "DatabaseStage.h"
 #include "component/product/AlteredProduct.h"
 #include "manager/ZRKECVSManager.h"
+#include "support/HostText.h"
 #include "svn/DatabaseStatus.h"
 #include "svn/LockCommands.h"
 
@@ -17,7 +18,6 @@ namespace {
 using namespace reports;
 
 using Paths = std::vector<std::string>;
-const StatusAttributes kOld{"7", "Edit", "R1", "old"};
 
 class DatabaseFile : public DatabaseStage {
 protected:
@@ -183,10 +183,6 @@ TEST_F(DatabaseFile, ThatWasNeverStoredIsNoneOfADatabase) {
 }
 
 // The query fills a record.
-
-std::string Text(const CATUnicodeString& text) {
-  return text.ConvertToChar();
-}
 
 TEST_F(DatabaseFile, FillsTheRecordOfAQuery) {
   ReportCar({.Item = "modified", .Revision = "12", .InRepository = Lock{"t", "ben", "why"}});

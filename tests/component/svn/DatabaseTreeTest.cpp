@@ -13,7 +13,6 @@ namespace {
 using namespace reports;
 
 using Paths = std::vector<std::string>;
-const StatusAttributes kOld{"7", "Edit", "R1", "old"};
 
 class DatabaseTree : public DatabaseStage {
 protected:

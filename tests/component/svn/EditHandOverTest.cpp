@@ -20,11 +20,13 @@ protected:
     WriteEntries("wc", Listed());
   }
 
-  static std::string Listed(const Lock& lock = {}) { return File(10, "car.CATProduct", "9", "bert", lock); }
+  static std::string Listed(const LockLines& lock = {}) {
+    return File(10, "car.CATProduct", "9", "bert", lock);
+  }
   ZRKICVSManager_var Manager() const { return Products.At("car"); }
 
   const std::string Path = Folder.Host("wc/car.CATProduct");
-  const Lock OwnLock{kToken, "anna", "", ""};
+  const LockLines OwnLock{kToken, "anna", "", ""};
 };
 
 TEST_F(SVNHandOver, EditIsALock) {

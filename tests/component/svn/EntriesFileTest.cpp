@@ -16,7 +16,7 @@ namespace {
 using namespace entries;
 using zrk::svn::ReadSVNEntry;
 
-const Lock kOwnLock{kToken, "anna", "", ""};
+const LockLines kOwnLock{kToken, "anna", "", ""};
 
 class SVNEntriesFile : public testing::Test {
 protected:

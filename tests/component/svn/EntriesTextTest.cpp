@@ -12,12 +12,11 @@ namespace {
 
 using entries::kToken;
 using entries::NameAndLines;
-using entries::Text;
 using zrk::svn::ReadEntry;
 
-constexpr const char* kName = "wheel left.CATPart";
+constexpr const char* kWheel = "wheel left.CATPart";
 
-ZRKCVSStatus Read(const std::string& text, const std::string& name = kName) {
+ZRKCVSStatus Read(const std::string& text, const std::string& name = kWheel) {
   ZRKCVSStatus record;
   ReadEntry(text, name, record);
   return record;
@@ -25,7 +24,7 @@ ZRKCVSStatus Read(const std::string& text, const std::string& name = kName) {
 
 // The name, and `count` lines behind it: revision, lock token and owner at their distances.
 ZRKCVSStatus ReadWithLinesBehindName(std::size_t count) {
-  return Read("10\n" + Text(NameAndLines(kName, count, {{9, "1234"}, {26, kToken}, {27, "anna"}})));
+  return Read("10\n" + entries::Text(NameAndLines(kWheel, count, {{9, "1234"}, {26, kToken}, {27, "anna"}})));
 }
 
 TEST(EntriesText, ListedFilesAreInEntriesAndVersioned) {
@@ -42,7 +41,7 @@ TEST(EntriesText, TheLineNineBehindTheNameIsTheRevisionAsTextAndAsNumber) {
 
 TEST(EntriesText, TheNumberOfARevisionIsDecimalWhateverItStartsWith) {
   for (const auto& [text, number] : {std::pair{"0010", 10}, {"0x1F", 0}, {"12 r", 12}}) {
-    const ZRKCVSStatus record = Read("10\n" + Text(NameAndLines(kName, 33, {{9, text}})));
+    const ZRKCVSStatus record = Read("10\n" + entries::Text(NameAndLines(kWheel, 33, {{9, text}})));
     EXPECT_EQ(record.RevisionNumber, number) << text;
     EXPECT_EQ(record.WorkingRevision, text);
   }
@@ -77,7 +76,7 @@ TEST(EntriesText, AFileThatIsNotListedLeavesTheRecordUntouched) {
   record.RevisionNumber = 7;
   record.LockOwner = "bert";
   record.IsLockedHere = 1;
-  ReadEntry("10\n" + Text(NameAndLines("axle.CATPart", 33, {{9, "1234"}})), kName, record);
+  ReadEntry("10\n" + entries::Text(NameAndLines("axle.CATPart", 33, {{9, "1234"}})), kWheel, record);
   EXPECT_FALSE(record.IsInEntries);
   EXPECT_FALSE(record.IsVersioned);
   EXPECT_EQ(record.WorkingRevision, "7");
@@ -130,7 +129,7 @@ TEST(EntriesText, TwentyFiveLinesBehindTheNameGiveNoLock) {
 TEST(EntriesText, TwentySixLinesBehindTheNameGiveALockWithoutOwner) {
   ZRKCVSStatus record;
   record.LockOwner = "bert";
-  ReadEntry("10\n" + Text(NameAndLines(kName, 26, {{9, "1234"}, {26, kToken}})), kName, record);
+  ReadEntry("10\n" + entries::Text(NameAndLines(kWheel, 26, {{9, "1234"}, {26, kToken}})), kWheel, record);
   EXPECT_TRUE(record.IsLockedHere);
   EXPECT_EQ(record.LockOwner, "");
 }
@@ -144,41 +143,44 @@ TEST(EntriesText, TwentySevenLinesBehindTheNameGiveTheOwner) {
 TEST(EntriesText, ALineWithoutTokenIsNoLockAndHasNoOwner) {
   ZRKCVSStatus record;
   record.LockOwner = "bert";
-  ReadEntry("10\n" + Text(NameAndLines(kName, 33, {{9, "1234"}, {26, "token"}, {27, "anna"}})), kName,
-            record);
+  ReadEntry("10\n" + entries::Text(NameAndLines(kWheel, 33, {{9, "1234"}, {26, "token"}, {27, "anna"}})),
+            kWheel, record);
   EXPECT_FALSE(record.IsLockedHere);
   EXPECT_EQ(record.LockOwner, "bert");
 }
 
 TEST(EntriesText, ATokenBesideItsLineIsNoLock) {
   for (const std::size_t distance : {25U, 27U}) {
-    EXPECT_FALSE(Read("10\n" + Text(NameAndLines(kName, 33, {{distance, kToken}}))).IsLockedHere) << distance;
+    EXPECT_FALSE(Read("10\n" + entries::Text(NameAndLines(kWheel, 33, {{distance, kToken}}))).IsLockedHere)
+        << distance;
   }
 }
 
 TEST(EntriesText, TheTokenMayStandAnywhereInItsLine) {
-  const std::string lines = Text(NameAndLines(kName, 33, {{26, "x opaquelocktoken"}, {27, "anna b. c."}}));
+  const std::string lines =
+      entries::Text(NameAndLines(kWheel, 33, {{26, "x opaquelocktoken"}, {27, "anna b. c."}}));
   const ZRKCVSStatus record = Read("10\n" + lines);
   EXPECT_TRUE(record.IsLockedHere);
   EXPECT_EQ(record.LockOwner, "anna b. c.");
 }
 
 TEST(EntriesText, TheTokenIsCaseSensitive) {
-  EXPECT_FALSE(Read("10\n" + Text(NameAndLines(kName, 33, {{26, "OpaqueLockToken:1"}}))).IsLockedHere);
+  EXPECT_FALSE(
+      Read("10\n" + entries::Text(NameAndLines(kWheel, 33, {{26, "OpaqueLockToken:1"}}))).IsLockedHere);
 }
 
 TEST(EntriesText, AnEmptyRevisionLineIsAnEmptyTextAndZero) {
   ZRKCVSStatus record;
   record.WorkingRevision = "7";
   record.RevisionNumber = 7;
-  ReadEntry("10\n" + Text(NameAndLines(kName, 10, {{9, ""}})), kName, record);
+  ReadEntry("10\n" + entries::Text(NameAndLines(kWheel, 10, {{9, ""}})), kWheel, record);
   EXPECT_EQ(record.WorkingRevision, "");
   EXPECT_EQ(record.RevisionNumber, 0);
 }
 
 TEST(EntriesText, TheRevisionNumberIsThatOfTheLeadingDigits) {
   const auto revision = [](const std::string& line) {
-    return Read("10\n" + Text(NameAndLines(kName, 10, {{9, line}})));
+    return Read("10\n" + entries::Text(NameAndLines(kWheel, 10, {{9, line}})));
   };
   EXPECT_EQ(revision("12M").RevisionNumber, 12);
   EXPECT_EQ(revision("12M").WorkingRevision, "12M");
@@ -188,7 +190,7 @@ TEST(EntriesText, TheRevisionNumberIsThatOfTheLeadingDigits) {
 }
 
 TEST(EntriesText, TheNameMayStandOnTheVeryFirstLine) {
-  const ZRKCVSStatus record = Read(Text(NameAndLines(kName, 9, {{9, "1234"}})));
+  const ZRKCVSStatus record = Read(entries::Text(NameAndLines(kWheel, 9, {{9, "1234"}})));
   EXPECT_TRUE(record.IsInEntries);
   EXPECT_EQ(record.WorkingRevision, "1234");
 }
@@ -202,7 +204,8 @@ TEST(EntriesText, TheNameMustBeTheWholeLine) {
 }
 
 TEST(EntriesText, ALineThatOnlyStartsWithTheNameDoesNotHideTheNameBehind) {
-  const ZRKCVSStatus record = Read("10\nwheel left.CATPart.bak\n" + Text(NameAndLines(kName, 9, {{9, "5"}})));
+  const ZRKCVSStatus record =
+      Read("10\nwheel left.CATPart.bak\n" + entries::Text(NameAndLines(kWheel, 9, {{9, "5"}})));
   EXPECT_EQ(record.WorkingRevision, "5");
 }
 
@@ -212,33 +215,33 @@ TEST(EntriesText, TheNameIsCaseSensitive) {
 
 TEST(EntriesText, TheFirstLineThatIsTheNameCounts) {
   const std::string twice =
-      Text(NameAndLines(kName, 9, {{9, "1"}})) + Text(NameAndLines(kName, 9, {{9, "2"}}));
+      entries::Text(NameAndLines(kWheel, 9, {{9, "1"}})) + entries::Text(NameAndLines(kWheel, 9, {{9, "2"}}));
   EXPECT_EQ(Read("10\n" + twice).WorkingRevision, "1");
 }
 
 TEST(EntriesText, ALastLineWithoutLineFeedDoesNotCount) {
-  const std::string cutName = std::string("10\n") + kName;
+  const std::string cutName = std::string("10\n") + kWheel;
   EXPECT_FALSE(Read(cutName).IsInEntries);
-  EXPECT_FALSE(Read(kName).IsInEntries);
+  EXPECT_FALSE(Read(kWheel).IsInEntries);
 
-  std::string cutRevision = Text(NameAndLines(kName, 9, {{9, "1234"}}));
+  std::string cutRevision = entries::Text(NameAndLines(kWheel, 9, {{9, "1234"}}));
   cutRevision.pop_back();
   EXPECT_TRUE(Read(cutRevision).IsInEntries);
   EXPECT_EQ(Read(cutRevision).WorkingRevision, "");
 
-  std::string cutToken = Text(NameAndLines(kName, 26, {{9, "1234"}, {26, kToken}}));
+  std::string cutToken = entries::Text(NameAndLines(kWheel, 26, {{9, "1234"}, {26, kToken}}));
   cutToken.pop_back();
   EXPECT_EQ(Read(cutToken).WorkingRevision, "1234");
   EXPECT_FALSE(Read(cutToken).IsLockedHere);
 
-  std::string cutOwner = Text(NameAndLines(kName, 27, {{26, kToken}, {27, "anna"}}));
+  std::string cutOwner = entries::Text(NameAndLines(kWheel, 27, {{26, kToken}, {27, "anna"}}));
   cutOwner.pop_back();
   EXPECT_TRUE(Read(cutOwner).IsLockedHere);
   EXPECT_EQ(Read(cutOwner).LockOwner, "");
 }
 
 TEST(EntriesText, AnEmptyNameIsFoundAtTheFirstEmptyLine) {
-  const ZRKCVSStatus record = Read("10\n" + Text(NameAndLines("", 9, {{9, "88"}})), "");
+  const ZRKCVSStatus record = Read("10\n" + entries::Text(NameAndLines("", 9, {{9, "88"}})), "");
   EXPECT_TRUE(record.IsInEntries);
   EXPECT_EQ(record.RevisionNumber, 88);
 }
@@ -248,7 +251,7 @@ TEST(EntriesText, NamesOfAnyBytesAreComparedByteByByte) {
   const std::string latin1 =
       "Tr\xE4gerplatte gr\xF6\xDF"
       "er.CATPart";
-  const std::string text = "10\n" + Text(NameAndLines(utf8, 9, {{9, "5"}}));
+  const std::string text = "10\n" + entries::Text(NameAndLines(utf8, 9, {{9, "5"}}));
   EXPECT_EQ(Read(text, utf8).WorkingRevision, "5");
   EXPECT_FALSE(Read(text, latin1).IsInEntries);
   EXPECT_TRUE(Read("10\n" + latin1 + "\n", latin1).IsInEntries);
@@ -256,12 +259,13 @@ TEST(EntriesText, NamesOfAnyBytesAreComparedByteByByte) {
 
 TEST(EntriesText, TheOwnerKeepsItsBytes) {
   const std::string owner = "J\xC3\xBCrgen M\xC3\xBCller";
-  EXPECT_EQ(Read(Text(NameAndLines(kName, 27, {{26, kToken}, {27, owner}}))).LockOwner, owner.c_str());
+  EXPECT_EQ(Read(entries::Text(NameAndLines(kWheel, 27, {{26, kToken}, {27, owner}}))).LockOwner,
+            owner.c_str());
 }
 
 TEST(EntriesText, CarriageReturnsThatStayedBelongToTheirLine) {
   EXPECT_FALSE(Read("10\nwheel left.CATPart\r\nfile\r\n").IsInEntries);
-  EXPECT_EQ(Read(Text(NameAndLines(kName, 9, {{9, "12\r"}}))).WorkingRevision, "12\r");
+  EXPECT_EQ(Read(entries::Text(NameAndLines(kWheel, 9, {{9, "12\r"}}))).WorkingRevision, "12\r");
 }
 
 TEST(EntriesText, ANameThatHoldsALineFeedIsNoLine) {

@@ -18,8 +18,6 @@ using zrk::svn::SVNContext;
 using Paths = std::vector<std::string>;
 using Names = std::vector<std::string>;
 
-const StatusAttributes kOld{"7", "Edit", "R1", "old"};
-
 struct Refresh {
   std::string Name;
   bool OfATree;
@@ -198,9 +196,10 @@ TEST_P(EveryRefresh, OfAFileThatIsNotListedTakesTheInstanceOffAndThenRedraws) {
   EXPECT_EQ(atRedraws, std::vector<bool>{false});
 }
 
-const auto kName = [](const auto& refresh) { return refresh.param.Name; };
+const auto kRefreshName = [](const auto& refresh) { return refresh.param.Name; };
 INSTANTIATE_TEST_SUITE_P(Of, EveryRefresh,
-                         testing::Values(kTextTree, kTextDocument, kDatabaseTree, kDatabaseDocument), kName);
+                         testing::Values(kTextTree, kTextDocument, kDatabaseTree, kDatabaseDocument),
+                         kRefreshName);
 
 // Of a tree.
 
@@ -249,7 +248,7 @@ TEST_P(EveryTreeRefresh, GoesOnBehindProductsWithoutADocument) {
   EXPECT_EQ(Shown("top/wheel.1")->Revision, "9");
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, EveryTreeRefresh, testing::Values(kTextTree, kDatabaseTree), kName);
+INSTANTIATE_TEST_SUITE_P(Of, EveryTreeRefresh, testing::Values(kTextTree, kDatabaseTree), kRefreshName);
 
 // From text entries.
 
@@ -309,6 +308,6 @@ TEST_P(EveryTextRefresh, TheMarkCountsInTheLineOfAnotherFile) {
   EXPECT_EQ(Shown("car"), (StatusAttributes{"9", "Locked", "", Comment()}));
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, EveryTextRefresh, testing::Values(kTextTree, kTextDocument), kName);
+INSTANTIATE_TEST_SUITE_P(Of, EveryTextRefresh, testing::Values(kTextTree, kTextDocument), kRefreshName);
 
 }  // namespace

@@ -16,17 +16,18 @@ using zrk::svn::SVNUnlock;
 
 using Paths = std::vector<std::string>;
 using Lists = std::vector<std::vector<std::string>>;
-const StatusAttributes kOld{"7", "ReadOnly", "R1", "old"};
 
 class SVNLockCommands : public SVNStage {
 protected:
   SVNLockCommands() { Products.Add("car", "wc/car.CATProduct"); }
 
-  static std::string Listed(const Lock& lock = {}) { return File(10, "car.CATProduct", "9", "bert", lock); }
+  static std::string Listed(const LockLines& lock = {}) {
+    return File(10, "car.CATProduct", "9", "bert", lock);
+  }
   CATBaseUnknown_var Car() const { return Products.At("car"); }
 
   const std::string Path = Folder.Host("wc/car.CATProduct");
-  const Lock OwnLock{kToken, "anna", "", ""};
+  const LockLines OwnLock{kToken, "anna", "", ""};
 };
 
 TEST_F(SVNLockCommands, LockUpdatesThenLocksThenAsksForTheStatus) {

@@ -14,13 +14,13 @@ using zrk::svn::ReadWorkingCopyReport;
 using zrk::svn::ReportedFiles;
 using zrk::svn::Repository;
 
-const std::string kReport = Report({{.Path = "sub/a", .Revision = "7"},
-                                    LockedElsewhere("b", {"t", "ben", "line 1\nline <2>"}),
-                                    NotHeld("c", "unversioned")});
+const std::string kWorkingCopyReport = Report({{.Path = "sub/a", .Revision = "7"},
+                                               LockedElsewhere("b", {"t", "ben", "line 1\nline <2>"}),
+                                               NotHeld("c", "unversioned")});
 const std::string kWarning = "svn: warning: W155010: The node 'x' was not found.\r\n";
 
 // Nothing when the report is none.
-std::optional<ReportedFiles> Read(const std::string& report) {
+std::optional<ReportedFiles> ReadWhole(const std::string& report) {
   ReportedFiles files;
   const bool complete = ReadWorkingCopyReport(report.c_str(), Repository::Asked, "", files);
   EXPECT_TRUE(complete || files.empty()) << "a report that is refused adds nothing";
@@ -29,7 +29,7 @@ std::optional<ReportedFiles> Read(const std::string& report) {
 }
 
 void ExpectWhole(const std::string& report) {
-  const auto files = Read(report);
+  const auto files = ReadWhole(report);
   ASSERT_TRUE(files) << report;
   EXPECT_EQ(files->size(), 3U);
   EXPECT_EQ(files->at("sub\\a").Revision, "7");
@@ -37,89 +37,91 @@ void ExpectWhole(const std::string& report) {
 }
 
 TEST(MalformedWorkingCopyReport, IsRefusedWhereverItIsCutOff) {
-  const std::size_t complete = kReport.rfind('>') + 1;
+  const std::size_t complete = kWorkingCopyReport.rfind('>') + 1;
   for (std::size_t length = 0; length < complete; ++length) {
-    EXPECT_FALSE(Read(kReport.substr(0, length))) << length;
-    EXPECT_FALSE(Read(kReport.substr(0, length) + kWarning)) << length;
+    EXPECT_FALSE(ReadWhole(kWorkingCopyReport.substr(0, length))) << length;
+    EXPECT_FALSE(ReadWhole(kWorkingCopyReport.substr(0, length) + kWarning)) << length;
   }
-  ExpectWhole(kReport.substr(0, complete));
+  ExpectWhole(kWorkingCopyReport.substr(0, complete));
 }
 
 TEST(MalformedWorkingCopyReport, IsRefusedWhereverItsBeginningIsMissing) {
-  for (std::size_t start = 1; start < kReport.size(); ++start) EXPECT_FALSE(Read(kReport.substr(start)));
+  for (std::size_t start = 1; start < kWorkingCopyReport.size(); ++start)
+    EXPECT_FALSE(ReadWhole(kWorkingCopyReport.substr(start)));
 }
 
 TEST(MalformedWorkingCopyReport, LeavesWhatIsKnownAsItWas) {
   ReportedFiles files;
   files["sub\\a"].Revision = "1";
-  EXPECT_FALSE(ReadWorkingCopyReport((kReport + "</status>").c_str(), Repository::Asked, "", files));
+  EXPECT_FALSE(
+      ReadWorkingCopyReport((kWorkingCopyReport + "</status>").c_str(), Repository::Asked, "", files));
   ASSERT_EQ(files.size(), 1U);
   EXPECT_EQ(files.at("sub\\a").Revision, "1");
 }
 
 TEST(MalformedWorkingCopyReport, MayHaveWarningsAroundIt) {
-  ExpectWhole(kWarning + kReport);
-  ExpectWhole(kReport + kWarning);
-  ExpectWhole("<x> & </" + kWarning + kReport + "<status> & " + kWarning);
+  ExpectWhole(kWarning + kWorkingCopyReport);
+  ExpectWhole(kWorkingCopyReport + kWarning);
+  ExpectWhole("<x> & </" + kWarning + kWorkingCopyReport + "<status> & " + kWarning);
 }
 
 TEST(MalformedWorkingCopyReport, MayHaveAWarningBetweenItsElements) {
-  ExpectWhole(kHead + kWarning + kReport.substr(kHead.size()));
+  ExpectWhole(kHead + kWarning + kWorkingCopyReport.substr(kHead.size()));
 }
 
 TEST(MalformedWorkingCopyReport, IsRefusedWithAWarningInsideATag) {
-  std::string report = kReport;
+  std::string report = kWorkingCopyReport;
   report.insert(report.find("item="), kWarning);
-  EXPECT_FALSE(Read(report));
+  EXPECT_FALSE(ReadWhole(report));
 }
 
 TEST(MalformedWorkingCopyReport, OfTwoRunsIsRefused) {
-  EXPECT_FALSE(Read(kReport + kReport));
+  EXPECT_FALSE(ReadWhole(kWorkingCopyReport + kWorkingCopyReport));
 }
 
 TEST(MalformedWorkingCopyReport, MayHaveAByteOrderMark) {
-  ExpectWhole("\xEF\xBB\xBF" + kReport);
+  ExpectWhole("\xEF\xBB\xBF" + kWorkingCopyReport);
 }
 
 TEST(MalformedWorkingCopyReport, IsReadInTheEncodingThatItDeclares) {
-  const auto files = Read(
+  const auto files = ReadWhole(
       "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><status><entry path=\"a\"><wc-status item=\"normal\">"
       "<commit revision=\"7\"/></wc-status></entry></status>");
   ASSERT_TRUE(files);
   EXPECT_EQ(files->at("a").Revision, "7");
-  std::string report = kReport;
+  std::string report = kWorkingCopyReport;
   report.replace(report.find("UTF-8"), 5, "x-unknown");
-  EXPECT_FALSE(Read(report));
-  report = kReport;
+  EXPECT_FALSE(ReadWhole(report));
+  report = kWorkingCopyReport;
   report.replace(report.find("UTF-8"), 5, "UTF-16");
-  EXPECT_FALSE(Read(report));
+  EXPECT_FALSE(ReadWhole(report));
 }
 
 TEST(MalformedWorkingCopyReport, IsRefusedWithBytesThatAreNoCharacters) {
-  EXPECT_FALSE(Read(Report({{.Path = "\xFC"}})));
-  EXPECT_FALSE(Read(Report({{.Path = "\x01"}})));
-  EXPECT_FALSE(Read(Report({LockedElsewhere("a", {"t", "\xC3"})})));
+  EXPECT_FALSE(ReadWhole(Report({{.Path = "\xFC"}})));
+  EXPECT_FALSE(ReadWhole(Report({{.Path = "\x01"}})));
+  EXPECT_FALSE(ReadWhole(Report({LockedElsewhere("a", {"t", "\xC3"})})));
 }
 
 TEST(MalformedWorkingCopyReport, IsRefusedInTwoByteCharacters) {
   std::string wide = "\xFF\xFE";
-  for (const char character : kReport) wide += std::string(1, character) + '\1';
-  EXPECT_FALSE(Read(wide));
+  for (const char character : kWorkingCopyReport) wide += std::string(1, character) + '\1';
+  EXPECT_FALSE(ReadWhole(wide));
 }
 
 TEST(MalformedWorkingCopyReport, OfAnotherKindHoldsNothing) {
-  EXPECT_FALSE(Read(""));
-  EXPECT_FALSE(Read("\r\n"));
-  EXPECT_FALSE(Read(kWarning));
-  EXPECT_FALSE(Read("</status><?xml"));
-  EXPECT_FALSE(Read("<status></status>"));
-  EXPECT_FALSE(Read("<?xml version=\"1.0\"?><html><body>502</body></html>"));
-  const auto files = Read("<?xml version=\"1.0\"?><status/><status></status>");
+  EXPECT_FALSE(ReadWhole(""));
+  EXPECT_FALSE(ReadWhole("\r\n"));
+  EXPECT_FALSE(ReadWhole(kWarning));
+  EXPECT_FALSE(ReadWhole("</status><?xml"));
+  EXPECT_FALSE(ReadWhole("<status></status>"));
+  EXPECT_FALSE(ReadWhole("<?xml version=\"1.0\"?><html><body>502</body></html>"));
+  const auto files = ReadWhole("<?xml version=\"1.0\"?><status/><status></status>");
   EXPECT_FALSE(files);
 }
 
 TEST(MalformedWorkingCopyReport, OfNoEntriesIsOneAllTheSame) {
-  const auto files = Read(Report({}));
+  const auto files = ReadWhole(Report({}));
   ASSERT_TRUE(files);
   EXPECT_TRUE(files->empty());
 }
@@ -129,12 +131,12 @@ TEST(LargeWorkingCopyReport, IsReadToItsEnd) {
   for (int i = 0; i < 10'000; ++i) entries.push_back({.Path = "sub/a" + std::to_string(i), .Revision = "7"});
   entries.push_back(LockedElsewhere("last", {"t", "ben"}));
   const std::string report = Report(entries);
-  const auto files = Read(report);
+  const auto files = ReadWhole(report);
   ASSERT_TRUE(files);
   EXPECT_EQ(files->size(), entries.size());
   EXPECT_EQ(files->at("sub\\a9999").Revision, "7");
   EXPECT_TRUE(files->at("last").IsLockedByOther);
-  EXPECT_FALSE(Read(report.substr(0, report.size() - 5)));
+  EXPECT_FALSE(ReadWhole(report.substr(0, report.size() - 5)));
 }
 
 // Entries that stand in one another, tens of thousands of them: what looks below each of them does not end
@@ -147,7 +149,7 @@ TEST(LargeWorkingCopyReport, OfManyLevelsIsReadToItsEnd) {
     opening += "<entry path=\"e\"><wc-status item=\"normal\"><lock>";
     closing += "</lock></wc-status></entry>";
   }
-  const auto files = Read(kHead + opening + closing + Text(Entry{.Path = "a"}) + kTail);
+  const auto files = ReadWhole(kHead + opening + closing + Text(Entry{.Path = "a"}) + kTail);
   ASSERT_TRUE(files);
   EXPECT_EQ(files->size(), 1U);
   EXPECT_EQ(files->count("a"), 1U);
@@ -155,7 +157,7 @@ TEST(LargeWorkingCopyReport, OfManyLevelsIsReadToItsEnd) {
 
 TEST(LargeWorkingCopyReport, MayHoldOneLongValue) {
   const std::string comment(3'000'000, 'c');
-  const auto files = Read(Report({LockedElsewhere("a", {"t", "ben", comment})}));
+  const auto files = ReadWhole(Report({LockedElsewhere("a", {"t", "ben", comment})}));
   ASSERT_TRUE(files);
   EXPECT_EQ(files->at("a").LockComment, CATUnicodeString(comment.c_str()));
 }

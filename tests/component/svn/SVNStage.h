@@ -16,6 +16,9 @@
 #include "support/TemporaryFolder.h"
 #include "svn/SVNContext.h"
 
+// What a product shows before the operation under test.
+inline const StatusAttributes kOld{"7", "Edit", "R1", "old"};
+
 // A Subversion working copy "wc" without a client, and what the Subversion operations work with there.
 class SVNStage : public testing::Test {
 protected:

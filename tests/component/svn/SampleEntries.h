@@ -19,7 +19,7 @@ inline std::string Text(const Lines& lines, const std::string& lineEnd = "\n") {
 
 // An entry of the lines given, the first of them its name: empty lines at its end are left out, and a
 // line with one form feed closes it.
-inline std::string Entry(Lines lines) {
+inline std::string EntryOf(Lines lines) {
   while (lines.size() > 1 && lines.back().empty()) lines.pop_back();
   return Text(lines) + "\f\n";
 }
@@ -40,7 +40,7 @@ inline Lines NameAndLines(const std::string& name, std::size_t count, const std:
   return lines;
 }
 
-struct Lock {
+struct LockLines {
   std::string Token;
   std::string Owner;
   std::string Comment;
@@ -50,7 +50,7 @@ struct Lock {
 // A committed file of formats 9 and 10 (33 lines) or of format 8, which has no working size behind the
 // lock and so ends early when nothing else is to be said.
 inline Lines FileLines(int format, const std::string& name, const std::string& revision,
-                       const std::string& author, const Lock& lock = {}) {
+                       const std::string& author, const LockLines& lock = {}) {
   Lines lines(33);
   lines[0] = name;
   lines[1] = "file";
@@ -68,8 +68,8 @@ inline Lines FileLines(int format, const std::string& name, const std::string& r
 }
 
 inline std::string File(int format, const std::string& name, const std::string& revision,
-                        const std::string& author, const Lock& lock = {}) {
-  return Entry(FileLines(format, name, revision, author, lock));
+                        const std::string& author, const LockLines& lock = {}) {
+  return EntryOf(FileLines(format, name, revision, author, lock));
 }
 
 // A file held in conflict: its three rejected texts and the rejected properties are named, up to line 18.
@@ -79,7 +79,7 @@ inline std::string ConflictedFile(const std::string& name, const std::string& re
   lines[16] = name + ".r2";
   lines[17] = name + ".mine";
   lines[18] = name + ".prej";
-  return Entry(lines);
+  return EntryOf(lines);
 }
 
 // A file that was copied and not committed yet: source and its revision, up to line 21.
@@ -89,16 +89,16 @@ inline std::string CopiedFile(const std::string& name, const std::string& revisi
   lines[19] = "copied";
   lines[20] = "file:///srv/svn/car/old.CATPart";
   lines[21] = "3";
-  return Entry(lines);
+  return EntryOf(lines);
 }
 
 // A file that was added and not committed yet: up to line 5.
 inline std::string AddedFile(const std::string& name) {
-  return Entry({name, "file", "0", "", "", "add"});
+  return EntryOf({name, "file", "0", "", "", "add"});
 }
 
 inline std::string Subfolder(const std::string& name) {
-  return Entry({name, "dir"});
+  return EntryOf({name, "dir"});
 }
 
 // The folder itself, whose name is empty: the first entry, up to line 25.
@@ -113,7 +113,7 @@ inline std::string Folder(const std::string& revision) {
   lines[10] = "anna";
   lines[14] = "svn:special svn:externals svn:needs-lock";
   lines[25] = "13f79535-47bb-0310-9956-ffa450edef68";
-  return Entry(lines);
+  return EntryOf(lines);
 }
 
 inline std::string Format(int format) {

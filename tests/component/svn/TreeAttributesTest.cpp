@@ -15,7 +15,7 @@ class SVNTreeAttributes : public SVNStage {
 protected:
   SVNTreeAttributes() { Products.Add("car", "wc/car.CATProduct"); }
 
-  void List(const Lock& lock = {}) const {
+  void List(const LockLines& lock = {}) const {
     WriteEntries("wc", File(10, "car.CATProduct", "9", "bert", lock));
   }
   void Report(const std::string& text, const std::string& xml = "") {
@@ -29,7 +29,7 @@ protected:
   }
 
   const std::string Path = Folder.Host("wc/car.CATProduct");
-  const Lock OwnLock{kToken, "anna", "", ""};
+  const LockLines OwnLock{kToken, "anna", "", ""};
 };
 
 TEST_F(SVNTreeAttributes, AFileThatNobodyLocksIsReadOnly) {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "component/tools/ToolRunner.h"
+#include "support/ClientReports.h"
 #include "support/Files.h"
 #include "support/HandleCount.h"
 #include "windows/WindowsControl.h"
@@ -12,13 +13,11 @@ using zrk::tools::AnswerTool;
 
 namespace {
 
-constexpr char kQuestion[] = "car.CATPart has been modified; revert changes? ";
-
 class Answer : public testing::Test {
 protected:
   // Answers the client's question and gives all that the client read.
   std::string Give(const char* answer) {
-    EXPECT_EQ(tool_.Run("unedit"), kQuestion);
+    EXPECT_EQ(tool_.Run("unedit"), zrk::sample::kRevertQuestion);
     AnswerTool(tool_.Context(), answer);
     return tool_.ClientInput();
   }
@@ -30,29 +29,29 @@ protected:
 }  // namespace
 
 TEST_F(Answer, YesIsThreeLettersAndAZero) {
-  tool_.Client.Otherwise().Out(kQuestion).ReadAll();
+  tool_.Client.Otherwise().Out(zrk::sample::kRevertQuestion).ReadAll();
   EXPECT_EQ(Give("yes"), std::string("yes\0", 4));
 }
 
 TEST_F(Answer, NoIsTwoLettersAndAZero) {
-  tool_.Client.Otherwise().Out(kQuestion).ReadAll();
+  tool_.Client.Otherwise().Out(zrk::sample::kRevertQuestion).ReadAll();
   EXPECT_EQ(Give("no"), std::string("no\0", 3));
 }
 
 TEST_F(Answer, NoneIsTheEndOfTheClientsInput) {
-  tool_.Client.Otherwise().Out(kQuestion).ReadAll();
+  tool_.Client.Otherwise().Out(zrk::sample::kRevertQuestion).ReadAll();
   EXPECT_EQ(Give(nullptr), "");
 }
 
 TEST_F(Answer, WhatTheClientDoesUponItIsDoneOnReturn) {
-  tool_.Client.Otherwise().Out(kQuestion).Read().Store("done", "x");
+  tool_.Client.Otherwise().Out(zrk::sample::kRevertQuestion).Read().Store("done", "x");
   Give("yes");
   EXPECT_TRUE(IsDone());
 }
 
 TEST_F(Answer, WhatTheClientGoesOnToWriteIsReadToItsEnd) {
   tool_.Client.Otherwise()
-      .Out(kQuestion)
+      .Out(zrk::sample::kRevertQuestion)
       .Read()
       .Repeat(100'000, "a line of ten words or so\r\n")
       .Store("done", "x");
@@ -61,12 +60,12 @@ TEST_F(Answer, WhatTheClientGoesOnToWriteIsReadToItsEnd) {
 }
 
 TEST_F(Answer, ToAClientThatDiedIsLost) {
-  tool_.Client.Otherwise().Out(kQuestion).Crash();
+  tool_.Client.Otherwise().Out(zrk::sample::kRevertQuestion).Crash();
   EXPECT_EQ(Give("yes"), "");
 }
 
 TEST_F(Answer, ToAClientThatEndedIsLost) {
-  tool_.Client.Otherwise().Out(kQuestion);
+  tool_.Client.Otherwise().Out(zrk::sample::kRevertQuestion);
   EXPECT_EQ(Give("yes"), "");
 }
 
@@ -78,7 +77,7 @@ TEST_F(Answer, ToAClientThatClosedItsInputIsLostAndTheClientEnds) {
 }
 
 TEST_F(Answer, ThePipesAreClosedBehindIt) {
-  tool_.Client.Otherwise().Out(kQuestion).ReadAll();
+  tool_.Client.Otherwise().Out(zrk::sample::kRevertQuestion).ReadAll();
   Give("yes");
   tool_.ClosePipes();
   const int handles = CountOpenHandles();

@@ -14,7 +14,7 @@
 
 namespace {
 
-const std::filesystem::path kName(u8"T\u00FCr links");
+const std::filesystem::path kUmlautName(u8"T\u00FCr links");
 
 std::string NativeName() {
   return standin::NativeFromWide(L"T\u00FCr links");
@@ -32,7 +32,7 @@ TEST(NamesBeyondASCII, ReachTheClientInItsArguments) {
 
 TEST(NamesBeyondASCII, MayBeThatOfTheWorkingFolder) {
   ToolRunner tool;
-  std::filesystem::create_directory(tool.Folder / kName);
+  std::filesystem::create_directory(tool.Folder / kUmlautName);
   tool.RunIn(tool.Folder.Host() + "\\" + NativeName());
   ASSERT_EQ(tool.Client.Runs().size(), 1u);
   EXPECT_EQ(tool.Client.Runs()[0].Folder, tool.Folder.Host() + "\\" + NativeName());
@@ -40,9 +40,9 @@ TEST(NamesBeyondASCII, MayBeThatOfTheWorkingFolder) {
 
 TEST(NamesBeyondASCII, MayBeThatOfTheClientsFolder) {
   ToolRunner tool;
-  std::filesystem::create_directory(tool.Folder / kName);
+  std::filesystem::create_directory(tool.Folder / kUmlautName);
   std::filesystem::copy_file(standin::FilePath(tool.Client.HostPath("cvs.exe")),
-                             tool.Folder / kName / "cvs.exe");
+                             tool.Folder / kUmlautName / "cvs.exe");
   tool.CVSExePath = (tool.Folder.Host() + "\\" + NativeName() + "\\cvs.exe").c_str();
   tool.Client.Otherwise().Out("text");
   EXPECT_EQ(tool.Run(), "text");
@@ -50,12 +50,12 @@ TEST(NamesBeyondASCII, MayBeThatOfTheClientsFolder) {
 
 TEST(NamesBeyondASCII, MayBeThatOfAFileThatIsRead) {
   const TemporaryFolder folder;
-  WriteFile(folder / kName, "text\r\n");
+  WriteFile(folder / kUmlautName, "text\r\n");
   const std::string path = folder.Host() + "\\" + NativeName();
   const auto text = zrk::files::ReadText(path);
   ASSERT_TRUE(text);
   EXPECT_EQ(text->View(), "text\n");
   EXPECT_TRUE(zrk::files::IsWritable(path.c_str()));
-  SetReadOnly(folder / kName);
+  SetReadOnly(folder / kUmlautName);
   EXPECT_FALSE(zrk::files::IsWritable(path.c_str()));
 }

@@ -5,13 +5,13 @@
 #include <string>
 
 #include "component/tools/ToolRunner.h"
+#include "support/ClientReports.h"
 
 // A client that writes several chunks writes them in one piece, so that each is read as one. A run that does
 // not see the question where it stands goes on to the client's last chunk, or waits as the client does.
 
 namespace {
 
-constexpr char kQuestion[] = "car.CATPart has been modified; revert changes? ";
 constexpr std::size_t kChunk = 4096;
 
 // The text filled up to whole chunks.
@@ -33,16 +33,16 @@ std::string RunWaiting(ToolRunner& tool, const char* arguments = "unedit", const
 
 TEST(RevertQuestion, EndsTheReadingWithTheClientStillWaiting) {
   ToolRunner tool;
-  tool.Client.Otherwise().Out(kQuestion).ReadAll();
-  EXPECT_EQ(RunWaiting(tool), kQuestion);
+  tool.Client.Otherwise().Out(zrk::sample::kRevertQuestion).ReadAll();
+  EXPECT_EQ(RunWaiting(tool), zrk::sample::kRevertQuestion);
   EXPECT_EQ(tool.ClientInput(), "");
 }
 
 TEST(RevertQuestion, WhatWasReadBeforeStaysInTheOutput) {
   ToolRunner tool;
   const std::string before(10'000, 'x');
-  tool.Client.Otherwise().Out(before + kQuestion).ReadAll();
-  EXPECT_EQ(RunWaiting(tool), before + kQuestion);
+  tool.Client.Otherwise().Out(before + zrk::sample::kRevertQuestion).ReadAll();
+  EXPECT_EQ(RunWaiting(tool), before + zrk::sample::kRevertQuestion);
 }
 
 TEST(RevertQuestion, EndsTheReadingInEveryCommandAndInSVNModeToo) {
@@ -56,8 +56,8 @@ TEST(RevertQuestion, EndsTheReadingInEveryCommandAndInSVNModeToo) {
 
 TEST(RevertQuestion, MayStandInStandardError) {
   ToolRunner tool;
-  tool.Client.Otherwise().Error(kQuestion).Hang();
-  EXPECT_EQ(RunWaiting(tool), kQuestion);
+  tool.Client.Otherwise().Error(zrk::sample::kRevertQuestion).Hang();
+  EXPECT_EQ(RunWaiting(tool), zrk::sample::kRevertQuestion);
 }
 
 TEST(RevertQuestion, IsFoundWhereverTheEdgeOfAChunkCutsIt) {
@@ -73,12 +73,12 @@ TEST(RevertQuestion, IsFoundWhereverTheEdgeOfAChunkCutsIt) {
 TEST(RevertQuestion, IsFoundWhenItComesByteByByte) {
   ToolRunner tool;
   auto rule = tool.Client.Otherwise();
-  for (const char character : std::string(kQuestion)) rule.Out(std::string(1, character));
+  for (const char character : std::string(zrk::sample::kRevertQuestion)) rule.Out(std::string(1, character));
   rule.Hang();
   // The reading ends with the chunk that completes the text; what comes behind may or may not be in it.
   const std::string output = RunWaiting(tool);
   EXPECT_NE(output.find("revert changes"), std::string::npos);
-  EXPECT_TRUE(std::string(kQuestion).starts_with(output)) << output;
+  EXPECT_TRUE(std::string(zrk::sample::kRevertQuestion).starts_with(output)) << output;
 }
 
 TEST(RevertQuestion, OfTheCallersOwnTextEndsTheReadingAfterTheFirstChunk) {

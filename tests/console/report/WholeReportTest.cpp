@@ -5,6 +5,7 @@
 
 #include "console/ConsoleTest.h"
 #include "support/CVSFolder.h"
+#include "support/ClientReports.h"
 #include "support/Files.h"
 #include "support/Platform.h"
 #include "support/ScriptedClient.h"
@@ -50,16 +51,6 @@ private:
   }
 };
 
-std::string StatusBlock(const std::string& file, const std::string& revision) {
-  const std::string name = file.substr(file.rfind('/') + 1);
-  return "===================================================================\r\nFile: " + name +
-         " \tStatus: Up-to-date\r\n\r\n   Working revision:\t" + revision + "\r\n   Repository revision:\t" +
-         revision + "\t/cvs/root/" + file +
-         ",v\r\n   Commit Identifier:\tkOGeDSplZWuXm2gG\r\n   Sticky Tag:\t\t(none)\r\n   Sticky Date:\t\t"
-         "(none)\r\n   Sticky Options:\t-kb\r\n\r\n   Existing Tags:\r\n\trelease-2 \t(revision: "
-         "1.4)\r\n\r\n";
-}
-
 // A car that may be edited, an axle that may not, and a wheel that somebody else edits.
 class WholeReportOfCVS : public WholeReport {
 protected:
@@ -74,11 +65,11 @@ protected:
   }
 
   void ReportStatus() {
-    client_.When("status -v proj\\axle.CATPart").Out(StatusBlock("proj/axle.CATPart", "1.7"));
+    client_.When("status -v proj\\axle.CATPart").Out(zrk::sample::ReportBlock("proj/axle.CATPart", "1.7"));
     client_.When("status -v")
-        .Out(StatusBlock("proj/car.CATProduct", "1.3"))
-        .Out(StatusBlock("proj/axle.CATPart", "1.7"))
-        .Out(StatusBlock("proj/sub/front wheel.CATPart", "1.12"));
+        .Out(zrk::sample::ReportBlock("proj/car.CATProduct", "1.3"))
+        .Out(zrk::sample::ReportBlock("proj/axle.CATPart", "1.7"))
+        .Out(zrk::sample::ReportBlock("proj/sub/front wheel.CATPart", "1.12"));
     client_.When("-n edit").Out("proj/sub/front wheel.CATPart\tanna\tMon Mar  2 10:00:00 2020 GMT\thost\r\n");
   }
 

@@ -2,6 +2,7 @@
 #include "console/CurrentFolder.h"
 #include "core/HostPath.h"
 #include "support/CVSFolder.h"
+#include "support/ClientReports.h"
 #include "support/Files.h"
 #include "support/ScriptedClient.h"
 
@@ -11,11 +12,8 @@ using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;
 
-std::string StatusBlock(const std::string& file, const std::string& revision) {
-  return "===================================================================\r\nFile: " + file +
-         " \tStatus: Up-to-date\r\n\r\n   Working revision:\t" + revision + "\r\n   Repository revision:\t" +
-         revision + "\t/cvs/root/proj/" + file +
-         ",v\r\n\r\n   Existing Tags:\r\n\trelease-2 \t(revision: 1.4)\r\n\r\n";
+std::string Block(const std::string& file, const std::string& revision) {
+  return zrk::sample::ReportBlock("proj/" + file, revision);
 }
 
 // The commands on a CVS working copy with a client that plays a script.
@@ -38,9 +36,7 @@ protected:
   }
 
   void ReportRevisions() {
-    client_.When("status -v")
-        .Out(StatusBlock("car.CATProduct", "1.3"))
-        .Out(StatusBlock("axle.CATPart", "1.7"));
+    client_.When("status -v").Out(Block("car.CATProduct", "1.3")).Out(Block("axle.CATPart", "1.7"));
   }
 
   ScriptedClient client_;
@@ -65,7 +61,7 @@ TEST_F(CommandRuns, RefreshTakesThePartOfTheTreeThatIsNamed) {
 }
 
 TEST_F(CommandRuns, StatusAsksAboutTheReferenceOfAnInstance) {
-  client_.When("axle.CATPart").Out(StatusBlock("axle.CATPart", "1.7"));
+  client_.When("axle.CATPart").Out(Block("axle.CATPart", "1.7"));
   const auto report = Report({Assembly(), "-c", "status car/axle.1"});
   const auto& command = CommandOf(report, 0);
   EXPECT_EQ(command["result"], 0);
@@ -76,14 +72,14 @@ TEST_F(CommandRuns, StatusAsksAboutTheReferenceOfAnInstance) {
 }
 
 TEST_F(CommandRuns, StatusPrintsWhatIsKnown) {
-  client_.When("axle.CATPart").Out(StatusBlock("axle.CATPart", "1.7"));
+  client_.When("axle.CATPart").Out(Block("axle.CATPart", "1.7"));
   const auto known = Zrkhost({Assembly(), "-c", "status car/axle.1"});
   EXPECT_THAT(known.Output, HasSubstr("Status: Up-to-date\\r\nWorkingRevision: 1.7\n"));
   EXPECT_EQ(Zrkhost({Assembly(), "-c", "status car/gone"}).Output, "nothing is known\n");
 }
 
 TEST_F(CommandRuns, StatusOfAnInstanceItselfIsLeftEmpty) {
-  client_.Otherwise().Out(StatusBlock("axle.CATPart", "1.7"));
+  client_.Otherwise().Out(Block("axle.CATPart", "1.7"));
   const auto report = Report({Assembly(), "-c", "status --instance car/axle.1"});
   EXPECT_EQ(CommandOf(report, 0)["record"]["WorkingRevision"], "");
   EXPECT_TRUE(client_.Runs().empty());
@@ -177,7 +173,7 @@ TEST_F(CommandRuns, RefreshInSubversionTakesThePartOfTheTreeThatIsNamed) {
 }
 
 TEST_F(CommandRuns, EditWorksOnTheProductThatIsNamed) {
-  client_.When("status -v").Out(StatusBlock("axle.CATPart", "1.7"));
+  client_.When("status -v").Out(Block("axle.CATPart", "1.7"));
   const auto report = Report({Assembly(), "-c", "edit car/axle.1"});
   EXPECT_EQ(CommandOf(report, 0)["result"], 0);
   EXPECT_EQ(report["products"][0]["attributes"], nullptr);
@@ -229,7 +225,7 @@ TEST_F(CommandRuns, ShowsNoDialogWithoutAWindow) {
 }
 
 TEST_F(CommandRuns, AnsweringTheRevertQuestionTakesTheAnswerOfTheCall) {
-  client_.When("status -v").Out(StatusBlock("car.CATProduct", "1.3"));
+  client_.When("status -v").Out(Block("car.CATProduct", "1.3"));
   client_.When("unedit").Out("car.CATProduct has been modified; revert changes? ").Read();
   const auto session = Session(R"({"documents": "proj", "root": "car",
       "products": {"car": {"document": "car.CATProduct", "attributes": {"Status": "Edit"}}}})");
@@ -260,7 +256,7 @@ TEST_F(CommandRuns, AnsweringTheRevertQuestionTakesTheAnswerOfTheCall) {
 }
 
 TEST_F(CommandRuns, DialogsAreShownOnStandardError) {
-  client_.When("status -v").Out(StatusBlock("car.CATProduct", "1.3"));
+  client_.When("status -v").Out(Block("car.CATProduct", "1.3"));
   client_.When("unedit").Out("car.CATProduct\x1b[2J has been modified; revert changes? ").Read();
   const auto session = Session(R"({"documents": "proj", "root": "car",
       "products": {"car": {"document": "car.CATProduct", "attributes": {"Status": "Edit"}}}})");
