@@ -24,10 +24,12 @@ ProgressLine::Work::Work(ProgressLine& line, const std::string& what) : line_(li
   line_.start_ = std::chrono::steady_clock::now();
   thread_ = std::jthread([&line](const std::stop_token& end) {
     std::unique_lock lock(line.mutex_);
-    for (auto wait = kPatience;; wait = kStep) {
+    for (Time wait = kPatience;;) {
       line.ended_.wait_for(lock, end, wait, [] { return false; });
       if (end.stop_requested()) return;
-      line.Draw();
+      const Time missing = kPatience - line.Worked();
+      wait = missing > Time::zero() ? missing : kStep;
+      if (missing <= Time::zero()) line.Draw();
     }
   });
 }
@@ -42,6 +44,14 @@ ProgressLine::Work::~Work() {
 void ProgressLine::CountClientRun() {
   const std::scoped_lock lock(mutex_);
   ++clientRuns_;
+}
+
+ProgressLine::Hidden::~Hidden() {
+  line_.start_ += std::chrono::steady_clock::now() - since_;
+}
+
+ProgressLine::Time ProgressLine::Worked() const {
+  return std::chrono::steady_clock::now() - start_;
 }
 
 void ProgressLine::Wipe() {
@@ -61,7 +71,7 @@ void ProgressLine::Draw() {
 }
 
 std::string ProgressLine::Text(int width) const {
-  const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start_;
+  const std::chrono::duration<double> seconds = Worked();
   std::array<char, 32> number{};
   std::snprintf(number.data(), number.size(), "%.1f s", seconds.count());
   std::string rest = ": ";

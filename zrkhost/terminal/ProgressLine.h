@@ -10,7 +10,7 @@ namespace zrkhost {
 
 // One line on standard error that says, while a command works for longer than a person waits without a
 // question, what goes on: the command, how many clients it has run, the seconds. It is gone when the work
-// ends.
+// ends. While a person is asked no work goes on: that time does not count.
 //
 // A thread of its own writes it, because the work blocks the caller's; there is one only while a command
 // works.
@@ -35,21 +35,28 @@ public:
     std::jthread thread_;
   };
 
-  // While one lives the line is not on the screen, and something else may be written.
+  // While one lives the line is not on the screen, something else may be written, and its time is not the
+  // work's.
   class Hidden {
   public:
-    explicit Hidden(ProgressLine& line) : lock_(line.mutex_) { line.Wipe(); }
+    explicit Hidden(ProgressLine& line) : lock_(line.mutex_), line_(line) { line.Wipe(); }
+    ~Hidden();
     Hidden(const Hidden&) = delete;
     Hidden& operator=(const Hidden&) = delete;
 
   private:
     std::unique_lock<std::mutex> lock_;
+    ProgressLine& line_;
+    const std::chrono::steady_clock::time_point since_ = std::chrono::steady_clock::now();
   };
 
   void CountClientRun();
 
 private:
-  // These three with the mutex locked.
+  using Time = std::chrono::steady_clock::duration;
+
+  // These four with the mutex locked.
+  Time Worked() const;
   void Wipe();
   void Draw();
   std::string Text(int width) const;
@@ -59,6 +66,7 @@ private:
   std::condition_variable_any ended_;
   std::string what_;
   int clientRuns_ = 0;
+  // When the work began; later by all the time for which the line was hidden.
   std::chrono::steady_clock::time_point start_;
   // Columns of the line on the screen; 0 when it is not there.
   int shown_ = 0;

@@ -85,6 +85,37 @@ TEST_F(Progress, GivesWayToADialog) {
                                              "unedit: result 1, now \"Edit\", revision 1.3", ""));
 }
 
+// A client that asks at once and, with the answer, is at work until the test lets it go on.
+class ProgressBehindAQuestion : public Progress {
+protected:
+  ProgressBehindAQuestion() {
+    client_.ClearRules();
+    client_.When("unedit").Out("car has been modified; revert changes? ").Read().File(Path("gate"));
+  }
+};
+
+TEST_F(ProgressBehindAQuestion, DoesNotCountTheTimeThatThePersonThinks) {
+  using std::chrono::steady_clock;
+  const auto start = steady_clock::now();
+  PseudoTerminal terminal(Program(), {Car(), "-c", "unedit"}, 80);
+  ASSERT_TRUE(terminal.WaitFor(" [y/n] ")) << terminal.Written();
+  const auto asked = steady_clock::now();
+  EXPECT_FALSE(terminal.AppearsWithin("client run", 2 * kLongEnough));
+  const auto answered = steady_clock::now();
+  terminal.Type("n\n");
+  ASSERT_TRUE(terminal.WaitFor("client run")) << terminal.Written();
+  ASSERT_TRUE(terminal.WaitFor(" s"));
+  const std::chrono::duration<double> mostWork = steady_clock::now() - start - (answered - asked);
+  // The first line that is shown: work of half a second, before the question and behind it.
+  const auto line = terminal.Written().substr(terminal.Written().find("client run"));
+  const auto seconds = std::stod(line.substr(line.find(", ") + 2));
+  EXPECT_GE(seconds, 0.5);
+  // The line is rounded.
+  EXPECT_LE(seconds, mostWork.count() + 0.05);
+  LetTheClientGoOn();
+  EXPECT_EQ(terminal.Finish(), 1);
+}
+
 TEST_F(Progress, IsShownWithoutSequencesOfTheTerminal) {
   const EnvironmentVariable none("NO_COLOR", "1");
   PseudoTerminal terminal(Program(), {Car(), "-c", "refresh"}, 80);
