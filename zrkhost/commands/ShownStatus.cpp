@@ -14,7 +14,7 @@ const std::string* ValueOf(const AttributeValues& attributes, const char* name) 
   return found == attributes.end() ? nullptr : &found->second;
 }
 
-// With `before` and `behind` around it, when there is anything.
+// For a terminal, on one line, with `before` and `behind` around it; empty when there is nothing.
 std::string Shown(const AttributeValues& attributes, const char* name, const char* before,
                   const char* behind) {
   const auto* value = ValueOf(attributes, name);
@@ -25,10 +25,10 @@ std::string Shown(const AttributeValues& attributes, const char* name, const cha
 }  // namespace
 
 std::string ShownStatus(const std::optional<AttributeValues>& attributes) {
-  const auto* status = attributes ? ValueOf(*attributes, "Status") : nullptr;
-  if (!status) return "";
-  return ", now \"" + DisplayText(*status) + "\"" + Shown(*attributes, "Comment", " (", ")") +
-         Shown(*attributes, "Revision", ", revision ", "");
+  const auto shown = attributes.value_or(AttributeValues());
+  const auto* status = ValueOf(shown, "Status");
+  return (status && !status->empty() ? ", now \"" + DisplayText(*status) + "\"" : ", now no status") +
+         Shown(shown, "Comment", " (", ")") + Shown(shown, "Revision", ", revision ", "");
 }
 
 }  // namespace zrkhost

@@ -8,9 +8,9 @@
 namespace zrkhost {
 
 // What a product with these attributes shows of its file, to stand behind a result: such as
-// `, now "Locked" (Locked by: ben), revision 1.4`. A value that is empty is left out, and so are the lines of
-// a comment that hold nothing; the others stand on one line. Empty when there are no attributes or none is
-// named "Status". For a terminal, as DisplayText gives it.
+// `, now "Locked" (Locked by: ben), revision 1.4`. Without a status, or without attributes, it begins with
+// `, now no status`. Another value that is empty is left out, and so are the lines of a comment that hold
+// nothing; the others stand on one line. For a terminal, as DisplayText gives it.
 std::string ShownStatus(const std::optional<AttributeValues>& attributes);
 
 }  // namespace zrkhost

@@ -31,7 +31,7 @@ TEST_F(Call, EndsWith1WhenACommandGivesAnotherResult) {
 TEST_F(Call, GoesOnAfterACommandWithAnotherResult) {
   const auto result = Zrkhost({CarSession(), "-c", "edit", "-c", "cvsable"});
   EXPECT_EQ(result.Status, 1);
-  EXPECT_THAT(result.Output, HasSubstr("edit: result 0x80004005\n1\n"));
+  EXPECT_THAT(result.Output, HasSubstr("edit: result 0x80004005, now no status\n1\n"));
 }
 
 TEST_F(Call, NeedsASession) {

@@ -29,9 +29,11 @@ TEST(ShownStatus, KeepsControlCharactersFromTheTerminal) {
   EXPECT_EQ(Shown("\x1b", "\x07", "\x7f"), ", now \"\\x07\" (\\x7f), revision \\x1b");
 }
 
-TEST(ShownStatus, TellsNothingWithoutAttributesOrAStatus) {
-  EXPECT_EQ(ShownStatus(std::nullopt), "");
-  EXPECT_EQ(ShownStatus(AttributeValues{{"Revision", "1.4"}}), "");
+TEST(ShownStatus, SaysThatThereIsNoStatus) {
+  EXPECT_EQ(ShownStatus(std::nullopt), ", now no status");
+  EXPECT_EQ(Shown("", "", ""), ", now no status");
+  EXPECT_EQ(Shown("1.4", "", "ben"), ", now no status (ben), revision 1.4");
+  EXPECT_EQ(ShownStatus(AttributeValues{{"Revision", "1.4"}}), ", now no status, revision 1.4");
 }
 
 }  // namespace
