@@ -28,6 +28,13 @@ struct Command {
   bool Instance = false;
 };
 
+struct Refresh {
+  // Where the product stands whose manager was asked.
+  const Place* Asked;
+  // And that which it was given.
+  const Place* Given;
+};
+
 struct Outcome {
   // Absent when the operation has none.
   std::optional<std::int32_t> Result = {};
@@ -40,8 +47,8 @@ struct Outcome {
   // For a person, behind what the library itself wrote.
   std::string Shown = {};
   bool ShowTree = false;
-  // The place whose tree was brought up to date; null when none was.
-  const Place* Refreshed = nullptr;
+  // Only of `refresh`.
+  std::optional<Refresh> Refreshed = {};
   bool Quit = false;
 
   bool Failed() const { return Result && *Result != 0 && !IsAnswer; }

@@ -39,7 +39,8 @@ CATUnicodeString FileOf(const CommandCall& call) {
 
 Outcome RunRefresh(const CommandCall& call) {
   Manager(call)->RefreshStatus(call.Product());
-  return {.ShowTree = true, .Refreshed = call.Given.ByRoot ? &call.Session.Root() : &call.Where};
+  const Place* asked = call.Given.ByRoot ? &call.Session.Root() : &call.Where;
+  return {.ShowTree = true, .Refreshed = Refresh{.Asked = asked, .Given = &call.Where}};
 }
 
 Outcome RunStatus(const CommandCall& call) {

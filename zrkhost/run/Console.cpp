@@ -65,14 +65,14 @@ bool Console::Run(const Command& command) {
   const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
   auto output = output_.Take();
   output_.Write(outcome.ShowTree ? Tree() : outcome.Shown);
-  if (outcome.Refreshed) TellWhyNothingIsShown(command, *outcome.Refreshed);
+  if (outcome.Refreshed) ShowWhyNothingIsShown(command, *outcome.Refreshed);
   failed_ = failed_ || outcome.Failed();
   if (report_) report_->Add({command, outcome, seconds.count(), std::move(output), events_.Take()});
   return !outcome.Quit;
 }
 
-void Console::TellWhyNothingIsShown(const Command& command, const Place& refreshed) const {
-  const auto reason = WhyNothingIsShown(session_, refreshed, events_.Launches());
+void Console::ShowWhyNothingIsShown(const Command& command, const Refresh& refresh) const {
+  const auto reason = WhyNothingIsShown(session_, refresh, events_.Launches());
   if (reason) PrintError(DisplayText(Utf8FromNative(command.Line) + ": " + *reason));
 }
 

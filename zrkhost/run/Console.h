@@ -31,7 +31,7 @@ public:
 private:
   // False after `quit`.
   bool Run(const Command& command);
-  void TellWhyNothingIsShown(const Command& command, const Place& refreshed) const;
+  void ShowWhyNothingIsShown(const Command& command, const Refresh& refresh) const;
   std::string Tree() const;
 
   const HostSession& session_;

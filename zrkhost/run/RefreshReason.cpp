@@ -6,6 +6,7 @@
 #include "ZRKCorServices.h"
 #include "base/Encoding.h"
 #include "core/HostPath.h"
+#include "session/CVSWorkingCopy.h"
 #include "session/ProductFacts.h"
 #include "session/WorkingCopyFolder.h"
 
@@ -14,19 +15,23 @@ namespace zrkhost {
 namespace {
 
 // What the library finds when it looks for working copies: from the top down, not below a product without a
-// document, nor below one in a folder of CVS.
+// document, nor below one in a folder that ends the search.
 struct Search {
   // As the host writes it; empty when there was no document to look beside.
   std::string FirstFolder;
-  // The first folder that is a working copy, and what it is.
+  // The last folder that is a working copy, and what it is.
   std::string Found;
   WorkingCopyKind Kind = WorkingCopyKind::None;
 };
 
 Search LookForWorkingCopies(const std::vector<Place>& places, std::size_t first) {
   Search search;
-  std::unordered_map<std::string, WorkingCopyKind> kinds;
-  for (std::size_t i = first; i < places[first].End && search.Found.empty();) {
+  struct Folder {
+    WorkingCopyKind Kind;
+    bool EndsBranch;
+  };
+  std::unordered_map<std::string, Folder> folders;
+  for (std::size_t i = first; i < places[first].End;) {
     const auto document = DocumentOf(places[i].Product);
     if (!document || document->empty()) {
       i = places[i].End;
@@ -34,13 +39,16 @@ Search LookForWorkingCopies(const std::vector<Place>& places, std::size_t first)
     }
     const auto folder = document->substr(0, document->rfind('\\'));
     if (search.FirstFolder.empty()) search.FirstFolder = folder;
-    const auto [kind, isNew] = kinds.try_emplace(folder, WorkingCopyKind::None);
-    if (isNew) kind->second = WorkingCopyKindOf(standin::FilePath(folder + "\\"));
-    if (kind->second != WorkingCopyKind::None) {
-      search.Found = folder;
-      search.Kind = kind->second;
+    auto known = folders.find(folder);
+    if (known == folders.end()) {
+      const auto path = standin::FilePath(folder + "\\");
+      known = folders.emplace(folder, Folder{WorkingCopyKindOf(path), EndsSearch(path)}).first;
     }
-    ++i;
+    if (known->second.Kind != WorkingCopyKind::None) {
+      search.Found = folder;
+      search.Kind = known->second.Kind;
+    }
+    i = known->second.EndsBranch ? places[i].End : i + 1;
   }
   return search;
 }
@@ -71,10 +79,38 @@ std::string NotOnPath(const std::string& client, const Search& search) {
          " (looked for: cvs.exe, svn.exe)";
 }
 
-std::string Reason(const Search& search, const std::vector<LaunchEvent>& launches) {
-  if (search.Kind == WorkingCopyKind::None) return WithoutWorkingCopy(search);
+// What the library goes by: what the manager found from its own product and, when that is not enough to run
+// the client of CVS, what it finds from the product that it is given.
+const Search& Decisive(const Search& own, const Search& given) {
+  if (own.Kind == WorkingCopyKind::Subversion) return own;
+  if (own.Kind == WorkingCopyKind::None) return given;
+  return CVSWorkingCopyOf(own.Found).IsWhole() || given.Kind != WorkingCopyKind::CVS ? own : given;
+}
+
+// Why a client that was run where `own` was found had nothing to say of `given`; absent when both are of one
+// working copy.
+std::optional<std::string> ReasonOfAnotherPlace(const Search& own, const Search& given) {
+  if (given.FirstFolder.empty()) return "the product has no document that the client could be asked about";
+  if (given.Kind == WorkingCopyKind::None) {
+    return "no working copy beside any document of the product; the first folder looked at is " +
+           Utf8FromNative(given.FirstFolder);
+  }
+  if (given.Kind == own.Kind && CVSWorkingCopyOf(given.Found) == CVSWorkingCopyOf(own.Found)) {
+    return std::nullopt;
+  }
+  return "the manager of the root asks about the working copy " + Utf8FromNative(own.Found) +
+         ", and the product is in another one, " + Utf8FromNative(given.Found);
+}
+
+std::string Reason(const Search& own, const Search& given, const std::vector<LaunchEvent>& launches) {
+  const Search& search = Decisive(own, given);
+  if (search.Kind == WorkingCopyKind::None) return WithoutWorkingCopy(own.FirstFolder.empty() ? given : own);
   const bool isCVS = search.Kind == WorkingCopyKind::CVS;
   const std::string client = isCVS ? "cvs.exe" : "svn.exe";
+  if (!isCVS && &search != &own) {
+    return client + " was not started for the working copy " + Utf8FromNative(search.Found) +
+           ": in Subversion the manager of the root refreshes the tree of the root, and found none there";
+  }
   if (!IsOnPath(client.c_str())) return NotOnPath(client, search);
   const auto failed = std::find_if(launches.begin(), launches.end(),
                                    [](const LaunchEvent& launch) { return !launch.Started; });
@@ -84,6 +120,9 @@ std::string Reason(const Search& search, const std::vector<LaunchEvent>& launche
     return Utf8FromWide(failed->Program) + " could not be started in " + Utf8FromWide(failed->Folder);
   }
   if (!AttributeClassOfSession()) return "the session has no attribute class ZRKCVS to write to";
+  if (isCVS && &search == &own) {
+    if (const auto reason = ReasonOfAnotherPlace(own, given)) return *reason;
+  }
   if (!launches.empty()) return "the client told of no document of the tree; --verbose shows how it was run";
   if (!LaunchesAreKnown()) return client + " could not be started, or told of no document of the tree";
   return client + " was not started for the working copy " + Utf8FromNative(search.Found) +
@@ -93,15 +132,23 @@ std::string Reason(const Search& search, const std::vector<LaunchEvent>& launche
 
 }  // namespace
 
-std::optional<std::string> WhyNothingIsShown(const HostSession& session, const Place& place,
+std::optional<std::string> WhyNothingIsShown(const HostSession& session, const Refresh& refresh,
                                              const std::vector<LaunchEvent>& launches) {
   const auto& places = session.Places();
-  const auto first = static_cast<std::size_t>(&place - places.data());
+  const auto position = [&places](const Place* place) {
+    return static_cast<std::size_t>(place - places.data());
+  };
   const bool started =
       !LaunchesAreKnown() ||
       std::any_of(launches.begin(), launches.end(), [](const LaunchEvent& launch) { return launch.Started; });
-  if (started && CarriesAttributes(places, first)) return std::nullopt;
-  return Reason(LookForWorkingCopies(places, first), launches);
+  const auto given = position(refresh.Given);
+  // What was given is within the tree of who was asked, and so in whichever the refresh is about.
+  if (started && CarriesAttributes(places, given)) return std::nullopt;
+  const auto own = LookForWorkingCopies(places, position(refresh.Asked));
+  // In Subversion a manager brings its own product's tree up to date, whatever it is given.
+  const auto tree = own.Kind == WorkingCopyKind::Subversion ? position(refresh.Asked) : given;
+  if (started && tree != given && CarriesAttributes(places, tree)) return std::nullopt;
+  return Reason(own, LookForWorkingCopies(places, tree), launches);
 }
 
 }  // namespace zrkhost

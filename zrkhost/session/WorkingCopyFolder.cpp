@@ -37,4 +37,9 @@ WorkingCopyKind WorkingCopyKindOf(const fs::path& folder) {
   }
 }
 
+bool EndsSearch(const fs::path& folder) {
+  const auto kind = WorkingCopyKindOf(folder);
+  return kind == WorkingCopyKind::CVS || (kind == WorkingCopyKind::Subversion && !ListsEntries(folder));
+}
+
 }  // namespace zrkhost

@@ -1,5 +1,7 @@
 // Why a refresh had nothing to show, on standard error.
 
+#include <algorithm>
+
 #include "console/ConsoleTest.h"
 #include "support/CVSFolder.h"
 #include "support/Files.h"
@@ -7,6 +9,7 @@
 
 namespace {
 
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
 
@@ -16,7 +19,7 @@ protected:
   std::string ReasonOf(const std::string& session, const std::string& command = "refresh") const {
     const auto result = Zrkhost({session, "--clients", "none", "--answer", "no", "-c", command});
     EXPECT_EQ(result.Status, 0);
-    EXPECT_THAT(result.Output, StartsWith("Product"));
+    EXPECT_THAT(result.Output, HasSubstr("Product"));
     return result.Error;
   }
 
@@ -97,12 +100,142 @@ TEST_F(RefreshReason, IsNotToldWhenSomethingIsShown) {
   EXPECT_EQ(ReasonOf(CarInCVS()), "");
 }
 
-TEST_F(RefreshReason, IsToldOfTheManagerThatWasAsked) {
+// A refresh of car/axle.1 by the manager of the root, which looks beside the car's document and, where that
+// does not lead to the client of CVS, beside the axle's.
+class RefreshReasonByRoot : public RefreshReason {
+protected:
+  // Each is a document, or null.
+  std::string ReasonOfAxle(const Json& car, const Json& axle) const {
+    Json products = {{"car", {{"children", {{{"name", "axle.1"}, {"reference", "axle"}}}}}},
+                     {"axle", Json::object()}};
+    if (!car.is_null()) products["car"]["document"] = car;
+    if (!axle.is_null()) products["axle"]["document"] = axle;
+    const auto session = Session(Json{{"window", false}, {"root", "car"}, {"products", products}}.dump());
+    const std::string begin = "zrkhost: refresh --by-root car/axle.1: ";
+    const auto reason = ReasonOf(session, "refresh --by-root car/axle.1");
+    EXPECT_THAT(reason, StartsWith(begin));
+    return reason.substr(std::min(begin.size(), reason.size()));
+  }
+
+  void WriteCVS(const std::string& folder, const std::string& root = "/cvs/root") const {
+    WriteCVSFolder(folder_ / folder, root, folder);
+  }
+};
+
+TEST_F(RefreshReasonByRoot, NamesTheFolderOfTheRootFirst) {
   const ScriptedClient clients;
+  EXPECT_THAT(ReasonOfAxle("first/car", "second/axle"), EndsWith(Host("first") + "\n"));
+  EXPECT_THAT(ReasonOfAxle("first/car", nullptr), EndsWith(Host("first") + "\n"));
+}
+
+TEST_F(RefreshReasonByRoot, NamesTheFolderOfTheProductWhenTheRootHasNone) {
+  const ScriptedClient clients;
+  EXPECT_EQ(ReasonOfAxle(nullptr, "second/axle"),
+            "no working copy beside any document; the first folder looked at is " + Host("second") + "\n");
+  EXPECT_EQ(ReasonOfAxle(nullptr, nullptr), "the product has no document, so no folder was looked at\n");
+}
+
+TEST_F(RefreshReasonByRoot, IsOfTheProductsWorkingCopyWhenTheRootHasNone) {
+  const ScriptedClient none(InstalledClients::None);
+  WriteCVS("axles");
+  EXPECT_THAT(ReasonOfAxle(nullptr, "axles/axle"),
+              StartsWith("no cvs.exe on PATH, the client of the working copy " + Host("axles") + " "));
+}
+
+TEST_F(RefreshReasonByRoot, IsOfTheProductsWorkingCopyWhenTheRootsIsNotWhole) {
+  const ScriptedClient none(InstalledClients::None);
+  WriteCVS("cars");
+  std::filesystem::remove(folder_ / "cars/CVS/Root");
+  WriteCVS("axles");
+  EXPECT_THAT(ReasonOfAxle("cars/car", "axles/axle"),
+              StartsWith("no cvs.exe on PATH, the client of the working copy " + Host("axles") + " "));
+}
+
+TEST_F(RefreshReasonByRoot, IsThatTheRootsManagerFoundNoSubversion) {
+  const ScriptedClient clients;
+  WriteFile(folder_ / "axles/.svn/entries", "10\n\f\n");
+  EXPECT_EQ(
+      ReasonOfAxle(nullptr, "axles/axle"),
+      "svn.exe was not started for the working copy " + Host("axles") +
+          ": in Subversion the manager of the root refreshes the tree of the root, and found none there\n");
+}
+
+TEST_F(RefreshReasonByRoot, IsThatTheProductHasNoDocument) {
+  const ScriptedClient clients;
+  WriteCVS("cars");
+  EXPECT_EQ(ReasonOfAxle("cars/car", nullptr),
+            "the product has no document that the client could be asked about\n");
+}
+
+TEST_F(RefreshReasonByRoot, IsThatTheProductIsInNoWorkingCopy) {
+  const ScriptedClient clients;
+  WriteCVS("cars");
+  EXPECT_EQ(ReasonOfAxle("cars/car", "axles/axle"),
+            "no working copy beside any document of the product; the first folder looked at is " +
+                Host("axles") + "\n");
+}
+
+TEST_F(RefreshReasonByRoot, IsThatTheProductIsInAnotherWorkingCopy) {
+  const ScriptedClient clients;
+  WriteCVS("cars");
+  const auto another = "the manager of the root asks about the working copy " + Host("cars") +
+                       ", and the product is in another one, " + Host("axles") + "\n";
+  WriteCVS("axles", "/cvs/parts");
+  EXPECT_EQ(ReasonOfAxle("cars/car", "axles/axle"), another);
+  std::filesystem::remove_all(folder_ / "axles");
+  WriteFile(folder_ / "axles/.svn/entries", "10\n\f\n");
+  EXPECT_EQ(ReasonOfAxle("cars/car", "axles/axle"), another);
+}
+
+TEST_F(RefreshReasonByRoot, KnowsThatTheLastWorkingCopyFoundHolds) {
+  const ScriptedClient clients;
+  WriteCVS("axles");
+  WriteCVS("doors", "/cvs/doors");
+  WriteCVS("seats", "/cvs/seats");
   const auto session = Session(R"({"root": "car", "products": {
-      "car": {"document": "first/car", "children": [{"name": "axle.1", "reference": "axle"}]},
-      "axle": {"document": "second/axle"}}})");
-  EXPECT_THAT(ReasonOf(session, "refresh --by-root car/axle.1"), HasSubstr(Host("first") + "\n"));
+      "car": {"document": "car", "children": [{"name": "axle.1", "reference": "axle"},
+                                              {"name": "door.1", "reference": "door"}]},
+      "axle": {"document": "axles/axle"},
+      "door": {"document": "doors/door", "children": [{"name": "seat.1", "reference": "seat"}]},
+      "seat": {"document": "seats/seat"}}})");
+  EXPECT_THAT(ReasonOf(session, "refresh --by-root car/axle.1"),
+              HasSubstr("asks about the working copy " + Host("doors") +
+                        ", and the product is in another one, " + Host("axles") + "\n"));
+}
+
+TEST_F(RefreshReasonByRoot, IsThatTheClientSaidNothingOfAProductInTheSameWorkingCopy) {
+  const ScriptedClient clients;
+  WriteCVS("cars");
+  WriteCVS("cars/sub");
+  EXPECT_THAT(ReasonOfAxle("cars/car", "cars/sub/axle"), HasSubstr("of no document of the tree"));
+}
+
+TEST_F(RefreshReasonByRoot, IsAboutTheTreeOfTheProductInCVS) {
+  const ScriptedClient clients;
+  WriteCVS("cars");
+  const auto session = Session(R"({"root": "car", "products": {
+      "car": {"document": "cars/car", "attributes": {"Status": "Edit"},
+              "children": [{"name": "axle.1", "reference": "axle"}]},
+      "axle": {}}})");
+  EXPECT_THAT(ReasonOf(session, "refresh --by-root car/axle.1"), HasSubstr("the product has no document"));
+}
+
+TEST_F(RefreshReasonByRoot, IsAboutTheTreeOfTheRootInSubversion) {
+  const ScriptedClient clients(InstalledClients::CVSOnly);
+  WriteFile(folder_ / "cars/.svn/entries", "10\n\f\n");
+  EXPECT_THAT(ReasonOfAxle("cars/car", nullptr),
+              StartsWith("no svn.exe on PATH, the client of the working copy " + Host("cars")));
+}
+
+TEST_F(RefreshReasonByRoot, IsNotGivenWhenSubversionShowsSomethingElsewhereInTheTreeOfTheRoot) {
+  ScriptedClient client;
+  client.When("--xml").Out(
+      "<?xml version=\"1.0\"?><status><target path=\".\"><entry path=\"car\"><wc-status item=\"normal\" "
+      "revision=\"3\"><commit revision=\"3\"/></wc-status></entry></target></status>");
+  WriteFile(folder_ / "cars/.svn/wc.db", "");
+  const auto session = Session(R"({"root": "car", "products": {
+      "car": {"document": "cars/car", "children": [{"name": "axle.1", "reference": "axle"}]}, "axle": {}}})");
+  EXPECT_EQ(ReasonOf(session, "refresh --by-root car/axle.1"), "");
 }
 
 }  // namespace

@@ -52,4 +52,14 @@ TEST_F(WorkingCopyFolder, IsNotThatOfADatabaseBeyondAnotherWorkingCopy) {
   EXPECT_EQ(Kind("a/text/b"), WorkingCopyKind::None);
 }
 
+TEST_F(WorkingCopyFolder, EndsTheSearchInCVSAndWithADatabase) {
+  Write("cvs/CVS/Repository");
+  Write("database/.svn/wc.db");
+  Write("text/.svn/entries", "10\n\ndir\n");
+  EXPECT_TRUE(zrkhost::EndsSearch(folder_ / "cvs"));
+  EXPECT_TRUE(zrkhost::EndsSearch(folder_ / "database/a"));
+  EXPECT_FALSE(zrkhost::EndsSearch(folder_ / "text"));
+  EXPECT_FALSE(zrkhost::EndsSearch(folder_ / "none"));
+}
+
 }  // namespace
