@@ -7,6 +7,7 @@
 #include "call/CommandLine.h"
 #include "call/CommandSource.h"
 #include "call/ExitStatus.h"
+#include "call/OutputCheck.h"
 #include "call/Surroundings.h"
 #include "page/Page.h"
 #include "plugin/Plugin.h"
@@ -47,48 +48,6 @@ void PrepareClients(const Options& options) {
   if (!folder.empty() && !AppendToPath(folder))
     throw CallError(Utf8FromPath(folder) +
                     ": cannot be put into PATH: its name holds the separator of folders");
-}
-
-// Also when neither is there yet.
-bool AreOneFile(const std::filesystem::path& one, const std::filesystem::path& other) {
-  std::error_code error;
-  if (std::filesystem::is_regular_file(one, error)) return std::filesystem::equivalent(one, other, error);
-  if (std::filesystem::exists(one, error)) return false;
-  const auto place = std::filesystem::weakly_canonical(one, error);
-  return !error && place == std::filesystem::weakly_canonical(other, error);
-}
-
-void CheckOutput(const std::optional<std::string>& output, const std::string& what,
-                 const std::optional<std::filesystem::path>& other, const std::string& role) {
-  if (output && other && AreOneFile(PathFromNative(*output), *other))
-    throw CallError(Utf8FromPath(PathFromNative(*output)) + ": the " + what + " would overwrite " + role);
-}
-
-// Nothing that is there already may be lost by a slip in the call.
-void CheckOutputs(const Options& options) {
-  const auto check = [](const std::optional<std::string>& output, const std::string& what,
-                        const std::optional<std::string>& other, const std::string& role) {
-    if (other) CheckOutput(output, what, PathFromNative(*other), role);
-  };
-  const bool commandsFromFile = options.CommandFile != "-";
-  for (const auto& input :
-       {options.SessionFile, commandsFromFile ? options.CommandFile : std::nullopt, options.Plugin}) {
-    check(options.Report, "report", input, "what the call reads");
-    check(options.Page, "page", input, "what the call reads");
-  }
-  check(options.Page, "page", options.Report, "the report");
-}
-
-void CheckOutputs(const Options& options, const SessionDescription& description) {
-  const auto check = [&](const std::optional<std::string>& output, const std::string& what) {
-    std::error_code error;
-    if (!output || !std::filesystem::is_regular_file(PathFromNative(*output), error)) return;
-    for (const auto& product : description.Products) {
-      CheckOutput(output, what, product.Document, "a document of the session");
-    }
-  };
-  check(options.Report, "report");
-  check(options.Page, "page");
 }
 
 int Run(const Options& options) {

@@ -27,14 +27,18 @@ void AddLines(std::vector<SourcedCommand>& commands, const std::string& name, co
 
 }  // namespace
 
+bool ReadsStandardInput(const Options& options) {
+  return options.CommandFile ? *options.CommandFile == "-" : options.Commands.empty();
+}
+
 std::vector<SourcedCommand> ReadCommands(const Options& options) {
   std::vector<SourcedCommand> commands;
   for (const auto& line : options.Commands) AddCommand(commands, "-c " + Utf8FromNative(line), line);
-  if (options.CommandFile && *options.CommandFile != "-") {
+  if (ReadsStandardInput(options)) {
+    AddLines(commands, "standard input", ReadStandardInput());
+  } else if (options.CommandFile) {
     const auto file = PathFromNative(*options.CommandFile);
     AddLines(commands, Utf8FromPath(file), ReadTextFile(file));
-  } else if (options.CommandFile || options.Commands.empty()) {
-    AddLines(commands, "standard input", ReadStandardInput());
   }
   return commands;
 }

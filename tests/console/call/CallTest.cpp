@@ -1,6 +1,8 @@
+#include "call/Surroundings.h"
 #include "commands/CommandText.h"
 #include "console/ConsoleTest.h"
 #include "support/Files.h"
+#include "support/Platform.h"
 
 namespace {
 
@@ -142,6 +144,19 @@ TEST_F(Call, RefusesAReportInPlaceOfWhatItReads) {
   ExpectRefused(Zrkhost({session, "--commands", Path("commands.txt"), "--report", Path("commands.txt")}),
                 "commands.txt: the report would overwrite");
   EXPECT_EQ(ReadFile(folder_ / "commands.txt"), "tree\n");
+}
+
+TEST_F(Call, RefusesAReportOrPageInPlaceOfTheLibrary) {
+  WriteFile(folder_ / "library", "machine code");
+  const auto beside = (ExecutableFolder() / zrkhost::LibraryFileName("ZRKCVSManager")).string();
+  for (const char* option : {"--report", "--page"}) {
+    ExpectRefused(Zrkhost({CarSession(), "-c", "tree", "--plugin", Path("library"), option, Path("library")}),
+                  "library: the " + std::string(option + 2) + " would overwrite what the call reads");
+    // Were it not refused, the call would still end without writing anything.
+    ExpectRefused(Zrkhost({CarSession(), "-c", "trees", option, beside}),
+                  "would overwrite what the call reads");
+  }
+  EXPECT_EQ(ReadFile(folder_ / "library"), "machine code");
 }
 
 TEST_F(Call, LeavesAnEarlierReportAloneWhenThePageCannotBeWritten) {

@@ -48,6 +48,31 @@ TEST_F(CallOnPosix, RefusesAReportBehindALinkToTheSession) {
                 "link.json: the report would overwrite");
 }
 
+TEST_F(CallOnPosix, RefusesAReportOrPageInPlaceOfItsStandardInput) {
+  WriteFile(folder_ / "f", "tree\n");
+  std::filesystem::create_hard_link(folder_ / "f", folder_ / "other");
+  std::filesystem::create_directory_symlink(folder_.Path(), folder_ / "link");
+  const auto call = "cd '" + Path("") + "' && exec " + Program().string() + " '" + CarSession() + "' ";
+  for (const char* rest :
+       {"--page f <f", "--report f <f", "--page link/f <f", "--page other <f", "--page /dev/stdin <f",
+        "--page f --commands - <f", "--page f --commands - -c tree <f", "--page f --commands /dev/stdin <f",
+        "--report f --commands /dev/stdin <other"}) {
+    const auto result = RunProgram("/bin/sh", {"-c", call + rest});
+    EXPECT_EQ(result.Status, 2) << rest;
+    EXPECT_THAT(result.Error, HasSubstr("would overwrite what the call reads")) << rest;
+    EXPECT_EQ(result.Output, "") << rest;
+    EXPECT_EQ(ReadFile(folder_ / "f"), "tree\n") << rest;
+  }
+}
+
+TEST_F(CallOnPosix, TakesAPageInPlaceOfAStandardInputThatItDoesNotRead) {
+  WriteFile(folder_ / "f", "earlier");
+  const auto script =
+      Program().string() + " '" + CarSession() + "' -c tree --page '" + Path("f") + "' <'" + Path("f") + "'";
+  EXPECT_EQ(RunProgram("/bin/sh", {"-c", script}).Status, 0);
+  EXPECT_THAT(ReadFile(folder_ / "f"), HasSubstr("</html>"));
+}
+
 TEST_F(CallOnPosix, TakesADeviceForBothCommandsAndReport) {
   EXPECT_EQ(Zrkhost({CarSession(), "--commands", "/dev/null", "--report", "/dev/null"}).Status, 0);
 }
