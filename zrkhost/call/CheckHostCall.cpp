@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <iostream>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,6 +11,7 @@
 #include "base/CallError.h"
 #include "base/Encoding.h"
 #include "call/ExitStatus.h"
+#include "call/ShortHelp.h"
 #include "call/Surroundings.h"
 #include "plugin/HostCheck.h"
 #include "session/FolderSession.h"
@@ -99,22 +101,24 @@ bool IsCheckHostCall(int argc, char** argv) {
 int RunCheckHostCall(int argc, char** argv) {
   CheckHostOptions options;
   CLI::App app(
-      "Checks that a host behaves as the component library expects of it, here the one that zrkhost plays.\n"
-      "Prints a table of the checks. Exit status: 0 when all hold, 1 when one fails or finds nothing to "
-      "look\n"
-      "at, 2 when nothing could be checked.",
+      "Checks that a host behaves as the component library expects, here the one that\n"
+      "zrkhost plays, on the product PATH and those below it; prints a table.",
       "zrkhost check-host");
   app.allow_windows_style_options(false);
-  app.add_option("PATH", options.ProductPath,
-                 "Product that is checked with those below it; default: the root");
+  app.formatter(std::make_shared<ShortHelp>("zrkhost check-host [PATH] [options]\n"));
+  app.footer(
+      "PATH is such as car/axle.1; without it the root.\n"
+      "Exit status: 0 all hold; 1 one fails or finds nothing to look at; 2 nothing was\n"
+      "checked.\n");
+  app.set_help_flag("-h,--help", "Print this");
+  app.add_option("PATH", options.ProductPath);
   auto* session = app.add_option("--session", options.SessionFile,
                                  "Session file (JSON); default: a small assembly of its own");
   session->type_name("FILE");
-  app.add_option("--folder", options.Folder, "Make the product structure from the files of a working copy")
+  app.add_option("--folder", options.Folder, "Make the products of the files of a working copy")
       ->type_name("DIR")
       ->excludes(session);
-  app.add_option("--library", options.Library,
-                 "Host check to load; default: the one built or installed beside zrkhost")
+  app.add_option("--library", options.Library, "Host check; default: the one beside zrkhost")
       ->type_name("FILE");
   try {
     app.parse(argc - 1, argv + 1);

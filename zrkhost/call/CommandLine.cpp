@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "call/ExitStatus.h"
+#include "call/ShortHelp.h"
 #include "commands/CommandTable.h"
 
 namespace zrkhost {
@@ -19,21 +20,9 @@ std::string Footer() {
          "Exit status: 0 all is well; 1 a command gave another result; 2 nothing was run.\n";
 }
 
-// All of the help on one screen of 80 columns: each option is one line.
-class ShortHelp : public CLI::Formatter {
-public:
-  ShortHelp() { column_width(22); }
-
-  std::string make_usage(const CLI::App*, std::string) const override {
-    return "Usage: zrkhost SESSION.json [options]\n       zrkhost --folder DIR [options]\n       zrkhost "
-           "check-host [PATH] [options]\n";
-  }
-  std::string make_positionals(const CLI::App*) const override { return ""; }
-  std::string make_option_opts(const CLI::Option* option) const override {
-    return option->get_type_size() == 0 ? "" : " " + option->get_type_name();
-  }
-  std::string make_footer(const CLI::App* app) const override { return app->get_footer(); }
-};
+constexpr auto kUsage =
+    "zrkhost SESSION.json [options]\n       zrkhost --folder DIR [options]\n       zrkhost check-host [PATH] "
+    "[options]\n";
 
 std::string NotEmpty(const std::string& value) {
   return value.empty() ? "must not be empty" : "";
@@ -90,7 +79,7 @@ std::optional<Options> ParseCommandLine(int argc, char** argv, int& status) {
   // A session file may begin with "/" on every platform.
   app.allow_windows_style_options(false);
   app.footer(Footer());
-  app.formatter(std::make_shared<ShortHelp>());
+  app.formatter(std::make_shared<ShortHelp>(kUsage));
   app.set_help_flag("-h,--help", "Print this");
   app.set_version_flag("--version", "zrkhost " ZRKHOST_VERSION, "Print the version");
   AddOptions(app, options);

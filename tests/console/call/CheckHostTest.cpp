@@ -1,3 +1,4 @@
+#include "commands/CommandText.h"
 #include "console/ConsoleTest.h"
 #include "support/Files.h"
 #include "support/Platform.h"
@@ -63,9 +64,19 @@ TEST_F(CheckHost, RefusesWhatItCannotCarryOut) {
 
 TEST_F(CheckHost, IsInTheHelp) {
   EXPECT_THAT(Zrkhost({"--help"}).Output, HasSubstr("zrkhost check-host [PATH]"));
+}
+
+TEST_F(CheckHost, PrintsItsHelpAsTheProgramDoes) {
   const auto help = Zrkhost({"check-host", "--help"});
   EXPECT_EQ(help.Status, 0);
-  EXPECT_THAT(help.Output, HasSubstr("--session"));
+  EXPECT_THAT(help.Output, HasSubstr("\nUsage: zrkhost check-host [PATH] [options]\n\nOptions:\n"
+                                     "  -h,--help           Print this\n"
+                                     "  --session FILE      Session file (JSON)"));
+  EXPECT_THAT(help.Output,
+              testing::ContainsRegex("\n  --folder DIR        [A-Z].*\n  --library FILE      [A-Z]"));
+  EXPECT_THAT(help.Output, HasSubstr("\nExit status: "));
+  for (const auto& line : zrkhost::SplitLines(help.Output)) EXPECT_LE(line.size(), 80u) << line;
+  EXPECT_EQ(Zrkhost({"check-host", "-h"}).Output, help.Output);
 }
 
 }  // namespace
