@@ -107,7 +107,7 @@ int main(int argc, char** argv) {
     const auto options = ParseCommandLine(argc, argv, status);
     return options ? Run(*options) : status;
   } catch (const std::exception& error) {
-    // Whatever goes wrong once commands run is told by the console itself.
+    // Whatever goes wrong once commands run is reported by the console itself.
     PrintError(error.what());
     return kNothingRun;
   }

@@ -35,7 +35,7 @@ protected:
 
   static std::filesystem::path Program();
   std::string Path(const std::string& name) const { return (folder_ / name).string(); }
-  // The folder as it is told by a program that made it absolute.
+  // The folder as it is named by a program that made it absolute.
   std::string Host(const std::string& name) const { return folder_.Host(name); }
 
   TemporaryFolder folder_;

@@ -22,7 +22,7 @@ std::u32string CharactersFromUtf8(std::string_view text) {
   std::u32string characters;
   characters.reserve(text.size());
   while (!text.empty()) {
-    // One character at a time, for the system does not tell which of many bytes are none.
+    // One character at a time, for the system does not say which of many bytes are none.
     std::array<wchar_t, 2> wide{};
     const int most = static_cast<int>(std::min<std::size_t>(text.size(), 4));
     int size = 0;

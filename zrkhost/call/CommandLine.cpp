@@ -12,7 +12,7 @@ namespace zrkhost {
 namespace {
 
 std::string Footer() {
-  return "Commands (PATH is such as car/axle.1; without it the root; help tells more):\n" + CommandsHelp() +
+  return "Commands (PATH is such as car/axle.1; without it the root; help says more):\n" + CommandsHelp() +
          "Examples:\n"
          "  zrkhost --folder wc/proj -c refresh\n"
          "  zrkhost car.json -c \"edit car/axle.1\" --answer no\n"
@@ -53,7 +53,7 @@ void AddOptions(CLI::App& app, Options& options) {
   app.add_option("--answer", options.Answer, "Answer every question so; else a terminal is asked, or no")
       ->type_name("yes|no")
       ->check(YesOrNo);
-  app.add_flag("--verbose", options.Verbose, "Tell client runs and debugger messages on standard error");
+  app.add_flag("--verbose", options.Verbose, "Show client runs and debugger messages on standard error");
   app.add_option("--report", options.Report, "Write a JSON report in the end")
       ->type_name("FILE")
       ->check(NotEmpty);

@@ -40,9 +40,9 @@ struct Outcome {
   std::optional<std::int32_t> Result = {};
   // Whether the result is an answer, so that 0 and 1 are both good.
   bool IsAnswer = false;
-  // What `storage` was told.
+  // What `storage` was given.
   std::optional<std::string> Text = {};
-  // What `status` was told, by field.
+  // What `status` was given, by field.
   std::optional<nlohmann::ordered_json> Record = {};
   // For a person, behind what the library itself wrote.
   std::string Shown = {};

@@ -10,7 +10,7 @@
 // Who holds which file, from what the component wrote onto the products. Texts are UTF-8.
 namespace zrkhost {
 
-// Who holds the product's file; empty when that is not told; absent when nobody does, which is so for every
+// Who holds the product's file; empty when that is not known; absent when nobody does, which is so for every
 // status but "Edit" and "Locked". The comment names the owner in one of three ways:
 //
 //   the lines of the CVS editors' report: the file, which ends the document's path, and behind it the owner
@@ -27,7 +27,7 @@ struct HeldFile {
 };
 
 struct Holder {
-  // Empty: the comment does not tell.
+  // Empty: the comment does not say.
   std::string Owner;
   // Only of those without a name: this working copy holds the files, its "Edit" says so.
   bool IsHere = false;

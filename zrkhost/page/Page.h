@@ -11,7 +11,7 @@
 
 namespace zrkhost {
 
-// The HTML page of the products, which has a column for each of `parameters` and tells when it was made. The
+// The HTML page of the products, which has a column for each of `parameters` and says when it was made. The
 // tree has at least its root. All that stands in the page besides the products is page.html.
 std::string PageOf(const std::vector<ProductRecord>& products, const std::vector<std::string>& parameters,
                    std::chrono::system_clock::time_point made);

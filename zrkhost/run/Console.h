@@ -22,7 +22,7 @@ public:
   // Up to the first `quit`.
   void RunAll(const std::vector<SourcedCommand>& commands);
   // Reads lines from the terminal until `quit` or the end of input. A line that is no command, or is about no
-  // product of the tree, is told and changes nothing.
+  // product of the tree, is reported and changes nothing.
   void RunPrompt();
 
   // Whether a command gave a result other than 0, or could not be carried out.

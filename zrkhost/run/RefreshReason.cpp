@@ -123,8 +123,8 @@ std::string Reason(const Search& own, const Search& given, const std::vector<Lau
   if (isCVS && &search == &own) {
     if (const auto reason = ReasonOfAnotherPlace(own, given)) return *reason;
   }
-  if (!launches.empty()) return "the client told of no document of the tree; --verbose shows how it was run";
-  if (!LaunchesAreKnown()) return client + " could not be started, or told of no document of the tree";
+  if (!launches.empty()) return "the client reported no document of the tree; --verbose shows how it was run";
+  if (!LaunchesAreKnown()) return client + " could not be started, or reported no document of the tree";
   return client + " was not started for the working copy " + Utf8FromNative(search.Found) +
          (isCVS ? ": it has no CVS\\Root, or its path does not hold what stands in CVS\\Repository"
                 : ": another document of the tree decided otherwise");

@@ -40,7 +40,7 @@ public:
     return true;
   }
 
-  // The parser proper tells about it, but for a number that is too large, of which it tells no place.
+  // The parser proper reports it, but for a number that is too large, of which it names no place.
   bool parse_error(std::size_t, const std::string& token, const nlohmann::detail::exception& error) override {
     if (dynamic_cast<const nlohmann::json::out_of_range*>(&error)) {
       FailAt(fileName_, Pointer(), "the number " + token + " is too large");

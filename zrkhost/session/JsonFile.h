@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-// Reading JSON strictly, so that every mistake is told with its place.
+// Reading JSON strictly, so that every mistake is reported with its place.
 namespace zrkhost {
 
 // Parses a whole text. Throws CallError, with the file name and a line and column or a JSON pointer, when it

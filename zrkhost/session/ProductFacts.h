@@ -8,7 +8,7 @@
 #include "ZRKIAttributes.h"
 #include "session/SessionDescription.h"
 
-// What the host's interfaces tell about the products of the session.
+// What the host's interfaces say about the products of the session.
 namespace zrkhost {
 
 // The reference product of a product; null when it is not loaded.

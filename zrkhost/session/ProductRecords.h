@@ -9,7 +9,7 @@
 
 namespace zrkhost {
 
-// What a product of the tree shows and where it stands, as it is told to others. Texts are UTF-8.
+// What a product of the tree shows and where it stands, as it is given to others. Texts are UTF-8.
 struct ProductRecord {
   // 0 at the root.
   std::size_t Depth = 0;

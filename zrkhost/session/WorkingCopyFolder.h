@@ -6,7 +6,7 @@ namespace zrkhost {
 
 enum class WorkingCopyKind { None, CVS, Subversion };
 
-// What the files beside a document tell about its folder:
+// What the files beside a document say about its folder:
 //
 //   CVS         CVS/Repository in the folder
 //   Subversion  .svn/entries in the folder, or .svn/wc.db in it or in the nearest folder above that holds

@@ -14,7 +14,7 @@ struct Range {
   char32_t Last;
 };
 
-// East Asian characters and emoji, of which the system tells only some.
+// East Asian characters and emoji, of which the system knows only some.
 constexpr std::array<Range, 81> kTwoColumns = {
     {{0x1100, 0x115F},   {0x231A, 0x231B},   {0x2329, 0x232A},   {0x23E9, 0x23EC},   {0x23F0, 0x23F0},
      {0x23F3, 0x23F3},   {0x25FD, 0x25FE},   {0x2614, 0x2615},   {0x2648, 0x2653},   {0x267F, 0x267F},

@@ -78,10 +78,10 @@ TEST_F(Call, PrintsItsVersion) {
 TEST_F(Call, PrintsHelpThatFitsOneScreen) {
   const auto help = Zrkhost({"--help"});
   EXPECT_EQ(help.Status, 0);
-  for (const char* told :
+  for (const char* named :
        {"SESSION", "--folder", "--root", "-c ", "--commands", "--answer", "--verbose", "--report", "--page",
         "--plugin", "--clients", "refresh", "status", "unedit", "Exit status"}) {
-    EXPECT_THAT(help.Output, HasSubstr(told));
+    EXPECT_THAT(help.Output, HasSubstr(named));
   }
   EXPECT_THAT(help.Output, testing::ContainsRegex("Examples:\n  zrkhost .*\n  zrkhost .*\n  zrkhost "));
   const auto lines = zrkhost::SplitLines(help.Output);
@@ -181,7 +181,7 @@ TEST_F(Call, OverwritesAnEarlierReport) {
   EXPECT_EQ(Report({CarSession(), "-c", "tree"})["commands"].size(), 1u);
 }
 
-TEST_F(Call, EscapesControlCharactersInWhatItTells) {
+TEST_F(Call, EscapesControlCharactersInWhatItSays) {
   const auto result = Zrkhost({CarSession(), "-c", "\x1b[2J"});
   EXPECT_EQ(result.Status, 2);
   EXPECT_THAT(result.Error, HasSubstr("\\x1b[2J"));

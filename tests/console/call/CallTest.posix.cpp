@@ -24,7 +24,7 @@ TEST_F(CallOnPosix, NamesAFileOfWhichReadingFails) {
                 "/proc/self/mem: cannot be read");
 }
 
-TEST_F(CallOnPosix, TellsThatReadingStandardInputFails) {
+TEST_F(CallOnPosix, SaysThatReadingStandardInputFails) {
   for (const char* arguments : {"", "-c tree --commands -"}) {
     const auto script = Program().string() + " '" + CarSession() + "' " + arguments + " <'" + Path("") + "'";
     ExpectRefused(RunProgram("/bin/sh", {"-c", script}), "standard input: cannot be read");

@@ -23,7 +23,7 @@ TEST_F(CheckHost, PassesOnAProductOfASession) {
   EXPECT_EQ(result.Status, 0) << result.Output;
 }
 
-TEST_F(CheckHost, TellsWhatTheSessionDoesNotShow) {
+TEST_F(CheckHost, ListsWhatTheSessionDoesNotShow) {
   const auto result = Zrkhost({"check-host", "--session", CarSession()});
   EXPECT_EQ(result.Status, 1);
   EXPECT_THAT(result.Output,
@@ -31,7 +31,7 @@ TEST_F(CheckHost, TellsWhatTheSessionDoesNotShow) {
   EXPECT_THAT(result.Output, EndsWith("33 checks: 30 hold, 0 fail, 3 not seen\n"));
 }
 
-TEST_F(CheckHost, TellsWhatFailsAndWhatWasFound) {
+TEST_F(CheckHost, ListsWhatFailsAndWhatWasFound) {
   const auto session = Session(R"({"root": "car", "attributeClass": {"parameters": ["Status", "Comment"]},
       "products": {"car": {"document": "car.CATProduct"}}})");
   const auto result = Zrkhost({"check-host", "--session", session});

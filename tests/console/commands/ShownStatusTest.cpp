@@ -12,11 +12,11 @@ std::string Shown(const std::string& revision, const std::string& status, const 
       AttributeValues{{"Revision", revision}, {"Status", status}, {"Release", "r"}, {"Comment", comment}});
 }
 
-TEST(ShownStatus, TellsStatusAndRevision) {
+TEST(ShownStatus, GivesStatusAndRevision) {
   EXPECT_EQ(Shown("1.4", "Edit", ""), ", now \"Edit\", revision 1.4");
 }
 
-TEST(ShownStatus, TellsACommentOnOneLine) {
+TEST(ShownStatus, GivesACommentOnOneLine) {
   EXPECT_EQ(Shown("", "Locked", "Locked by: \nben\n-------------\n"), ", now \"Locked\" (Locked by: ben)");
   EXPECT_EQ(Shown("7", "Locked", "ben\nweek 12"), ", now \"Locked\" (ben week 12), revision 7");
 }

@@ -39,7 +39,7 @@ TEST(HolderOf, IsTheFirstLineOfALockOfOneFile) {
   EXPECT_THAT(HolderOf(Product("Locked", "ben\nit is\nmine\nfor\never")), Optional(std::string("ben")));
 }
 
-TEST(HolderOf, IsNotTold) {
+TEST(HolderOf, IsNotKnown) {
   EXPECT_THAT(HolderOf(Product("Edit", "")), Optional(std::string()));
   EXPECT_THAT(HolderOf(Product("Locked", "\n")), Optional(std::string()));
 }

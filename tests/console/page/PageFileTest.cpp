@@ -7,7 +7,7 @@ using testing::HasSubstr;
 
 class PageFile : public ConsoleTest {
 protected:
-  // Expects that the call ends with 2, tells `error` and leaves no page.
+  // Expects that the call ends with 2, says `error` and leaves no page.
   void ExpectRefused(const std::vector<std::string>& arguments, const std::string& error) const {
     const auto result = Zrkhost(arguments);
     EXPECT_EQ(result.Status, 2);

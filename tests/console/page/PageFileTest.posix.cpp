@@ -4,7 +4,7 @@ namespace {
 
 using PageFileOnPosix = ConsoleTest;
 
-TEST_F(PageFileOnPosix, TellsThatItCouldNotBeWrittenInTheEnd) {
+TEST_F(PageFileOnPosix, SaysThatItCouldNotBeWrittenInTheEnd) {
   const auto result = Zrkhost({CarSession(), "-c", "tree", "--page", "/dev/full"});
   EXPECT_EQ(result.Status, 1);
   EXPECT_THAT(result.Error, testing::HasSubstr("/dev/full: the page cannot be written"));

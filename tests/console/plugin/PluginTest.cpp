@@ -25,29 +25,29 @@ protected:
   }
 };
 
-TEST_F(Plugin, ThatIsMissingIsTold) {
+TEST_F(Plugin, ThatIsMissingIsReported) {
   ExpectRefused(Path("gone.so"), "there is no such component library");
 }
 
-TEST_F(Plugin, ThatIsATextFileIsTold) {
+TEST_F(Plugin, ThatIsATextFileIsReported) {
   WriteFile(folder_ / "text.so", "not a library");
   ExpectRefused(Path("text.so"), "cannot be loaded");
 }
 
-TEST_F(Plugin, ThatIsEmptyIsTold) {
+TEST_F(Plugin, ThatIsEmptyIsReported) {
   WriteFile(folder_ / "empty.so", "");
   ExpectRefused(Path("empty.so"), "cannot be loaded");
 }
 
-TEST_F(Plugin, ThatIsAFolderIsTold) {
+TEST_F(Plugin, ThatIsAFolderIsReported) {
   ExpectRefused(folder_.Path().string(), "cannot be loaded");
 }
 
-TEST_F(Plugin, WithoutTheComponentsSymbolsIsTold) {
+TEST_F(Plugin, WithoutTheComponentsSymbolsIsReported) {
   ExpectRefused(Built("foreign_library.plugin"), "does not export IsCVSable");
 }
 
-TEST_F(Plugin, ThatFillsNoDictionaryIsTold) {
+TEST_F(Plugin, ThatFillsNoDictionaryIsReported) {
   ExpectRefused(Built("silent_library.plugin"), "brings no products with ZRKICVS");
 }
 

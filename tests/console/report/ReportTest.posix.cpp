@@ -8,7 +8,7 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-// What only the stand-in's own functions can tell, and texts that are not well-formed.
+// What only the stand-in's own functions can show, and texts that are not well-formed.
 class ReportOfLaunches : public ConsoleTest {
 protected:
   ReportOfLaunches() {
@@ -42,7 +42,7 @@ TEST_F(ReportOfLaunches, GivesTheArgumentsOfALaunchCharacterByCharacter) {
                   {"started", true}}));
 }
 
-TEST_F(ReportOfLaunches, TellsALaunchThatFailed) {
+TEST_F(ReportOfLaunches, ShowsALaunchThatFailed) {
   const auto report = Report({CarInProject(), "-c", "remove /no/such/folder/a"});
   const auto& events = CommandOf(report, 0)["events"];
   EXPECT_THAT(EventKinds(CommandOf(report, 0)), ElementsAre("launch", "debug", "debug"));
@@ -80,7 +80,7 @@ TEST_F(ReportOfLaunches, MakesASessionOfFilesWhoseNamesAreNotWellFormed) {
   EXPECT_EQ(report["products"].size(), 2u);
 }
 
-TEST_F(ReportOfLaunches, TellsThatItCouldNotBeWrittenInTheEnd) {
+TEST_F(ReportOfLaunches, SaysThatItCouldNotBeWrittenInTheEnd) {
   const auto result = Zrkhost({CarInProject(), "-c", "tree", "--report", "/dev/full"});
   EXPECT_EQ(result.Status, 1);
   EXPECT_THAT(result.Error, HasSubstr("/dev/full"));

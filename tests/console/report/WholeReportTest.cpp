@@ -1,5 +1,5 @@
 // Whole reports, compared with stored ones that hold for both targets. In those "<folder>" stands for the
-// test's folder and "<time>" for what a clock told; launches, which only Linux tells of, are left out.
+// test's folder and "<time>" for what a clock said; launches, which only Linux reports, are left out.
 
 #include <regex>
 

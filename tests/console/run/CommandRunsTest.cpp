@@ -296,7 +296,7 @@ TEST_F(CommandRuns, DeleteMeansARelativeFileFromTheCurrentFolder) {
   EXPECT_THAT(runs[0].Arguments, ElementsAre("delete", "-mzq", "--force", Host("wc/sub/axle.CATPart")));
 }
 
-TEST_F(CommandRuns, StorageTellsThePathOfAnInstancesReference) {
+TEST_F(CommandRuns, StorageGivesThePathOfAnInstancesReference) {
   const auto report = Report({Assembly(), "-c", "storage car/axle.1", "-c", "storage car/gone"});
   EXPECT_EQ(CommandOf(report, 0)["text"], Host("proj/axle.CATPart"));
   EXPECT_EQ(CommandOf(report, 0)["result"], nullptr);
@@ -352,7 +352,7 @@ TEST_F(CommandRuns, TheLibrarysOutputComesInItsPlaceOnStandardOutput) {
   EXPECT_THAT(result.Output, EndsWith("  gone\n1\n"));
 }
 
-TEST_F(CommandRuns, VerboseTellsDebuggerMessagesOnStandardError) {
+TEST_F(CommandRuns, VerboseShowsDebuggerMessagesOnStandardError) {
   ReportRevisions();
   const auto result = Zrkhost({Assembly(), "-c", "refresh", "--verbose"});
   EXPECT_THAT(result.Error, HasSubstr("debug: \\nCVS status check time: "));
@@ -360,7 +360,7 @@ TEST_F(CommandRuns, VerboseTellsDebuggerMessagesOnStandardError) {
   EXPECT_EQ(Zrkhost({Assembly(), "-c", "refresh"}).Error, "");
 }
 
-TEST_F(CommandRuns, AMissingClientIsToldInADialog) {
+TEST_F(CommandRuns, AMissingClientIsReportedInADialog) {
   const ScriptedClient none(InstalledClients::None);
   const auto report = Report({Assembly(), "--clients", "none", "-c", "refresh"});
   ASSERT_EQ(CommandOf(report, 0)["events"].size(), 1u);

@@ -1,4 +1,4 @@
-// The line that tells on a terminal what goes on.
+// The line that says on a terminal what goes on.
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -50,7 +50,7 @@ protected:
   ScriptedClient client_;
 };
 
-TEST_F(Progress, TellsCommandClientRunsAndSecondsAndIsWipedInTheEnd) {
+TEST_F(Progress, ShowsCommandClientRunsAndSecondsAndIsWipedInTheEnd) {
   PseudoTerminal terminal(Program(), {Car(), "-c", "refresh car"}, 80);
   ASSERT_TRUE(terminal.WaitFor("refresh car: 1 client run, ")) << terminal.Written();
   ASSERT_TRUE(terminal.WaitFor(" s"));

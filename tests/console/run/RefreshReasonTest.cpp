@@ -44,7 +44,7 @@ TEST_F(RefreshReason, IsThatThereIsNoWorkingCopyBesideAnyDocument) {
   EXPECT_THAT(ReasonOf(session, "refresh car/axle.1"), HasSubstr(Host("second") + "\n"));
 }
 
-TEST_F(RefreshReason, TellsAlsoThatThereIsNoClientAtAll) {
+TEST_F(RefreshReason, SaysAlsoThatThereIsNoClientAtAll) {
   const ScriptedClient none(InstalledClients::None);
   const auto session =
       Session(R"({"window": false, "root": "car", "products": {"car": {"document": "car"}}})");
@@ -93,7 +93,7 @@ TEST_F(RefreshReason, IsOneLineWhateverTheNames) {
             "zrkhost: refresh \"a\\nb\": the product has no document, so no folder was looked at\n");
 }
 
-TEST_F(RefreshReason, IsNotToldWhenSomethingIsShown) {
+TEST_F(RefreshReason, IsNotGivenWhenSomethingIsShown) {
   ScriptedClient client;
   client.When("status -v")
       .Out("File: car \tStatus: Up-to-date\r\n\r\n   Repository revision:\t1.3\t/cvs/root/proj/car,v\r\n");
@@ -203,11 +203,11 @@ TEST_F(RefreshReasonByRoot, KnowsThatTheLastWorkingCopyFoundHolds) {
                         ", and the product is in another one, " + Host("axles") + "\n"));
 }
 
-TEST_F(RefreshReasonByRoot, IsThatTheClientSaidNothingOfAProductInTheSameWorkingCopy) {
+TEST_F(RefreshReasonByRoot, IsThatTheClientReportedNothingOfAProductInTheSameWorkingCopy) {
   const ScriptedClient clients;
   WriteCVS("cars");
   WriteCVS("cars/sub");
-  EXPECT_THAT(ReasonOfAxle("cars/car", "cars/sub/axle"), HasSubstr("of no document of the tree"));
+  EXPECT_THAT(ReasonOfAxle("cars/car", "cars/sub/axle"), HasSubstr("no document of the tree"));
 }
 
 TEST_F(RefreshReasonByRoot, IsAboutTheTreeOfTheProductInCVS) {

@@ -1,4 +1,4 @@
-// Reasons that only launches tell, which are known on this system alone.
+// Reasons that only launches show, which are known on this system alone.
 
 #include "console/ConsoleTest.h"
 #include "support/CVSFolder.h"
@@ -32,13 +32,14 @@ TEST_F(RefreshReasonOnPosix, IsThatAClientCouldNotBeStarted) {
             "zrkhost: refresh: " + Host("bin/cvs.exe") + " could not be started in " + Host("") + "\n");
 }
 
-TEST_F(RefreshReasonOnPosix, IsThatTheClientToldNothing) {
+TEST_F(RefreshReasonOnPosix, IsThatTheClientReportedNothing) {
   const ScriptedClient client;
-  EXPECT_EQ(ReasonOf(Car()),
-            "zrkhost: refresh: the client told of no document of the tree; --verbose shows how it was run\n");
+  EXPECT_EQ(
+      ReasonOf(Car()),
+      "zrkhost: refresh: the client reported no document of the tree; --verbose shows how it was run\n");
 }
 
-TEST_F(RefreshReasonOnPosix, IsToldWhenNoClientWasStartedThoughAttributesWereThere) {
+TEST_F(RefreshReasonOnPosix, IsGivenWhenNoClientWasStartedThoughAttributesWereThere) {
   const ScriptedClient client;
   WriteFile(folder_ / "proj/CVS/Repository", "elsewhere\n");
   const auto session = Session(R"({"root": "car", "products": {

@@ -26,7 +26,7 @@ TEST_F(Terminal, IsAskedForCommandsUntilItsInputEnds) {
   EXPECT_THAT(result.Screen, HasSubstr("1\r\n"));
 }
 
-TEST_F(Terminal, IsToldWhatIsWrongWithALineAndAskedAgain) {
+TEST_F(Terminal, ShowsWhatIsWrongWithALineAndAsksAgain) {
   const auto result =
       Prompted({CarSession()}, {"nonsense\n", "edit car/gone\n", "\n", "storage\n", "quit\n"});
   EXPECT_EQ(result.Status, 0);

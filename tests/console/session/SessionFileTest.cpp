@@ -33,7 +33,7 @@ bool IsAboutForm(const std::string& complaint) {
   return false;
 }
 
-// What is told about a session that is wrong.
+// What is said about a session that is wrong.
 std::string Complaint(const std::string& text) {
   try {
     Parse(text);
@@ -153,7 +153,7 @@ TEST(SessionFile, TakesAnEmptyDocumentForOneThatWasNeverStored) {
   EXPECT_EQ(session.Products[0].Document, std::filesystem::path());
 }
 
-TEST(SessionFile, TellsTheLineAndColumnOfWhatIsNotJson) {
+TEST(SessionFile, NamesTheLineAndColumnOfWhatIsNotJson) {
   EXPECT_THAT(Complaint("{\n  \"root\": nonsense\n}"), StartsWith("car.json: not JSON: "));
   EXPECT_THAT(Complaint("{\n  \"root\": nonsense\n}"), HasSubstr("line 2, column 12"));
   EXPECT_THAT(Complaint(""), HasSubstr("line 1"));
@@ -161,7 +161,7 @@ TEST(SessionFile, TellsTheLineAndColumnOfWhatIsNotJson) {
   EXPECT_THAT(Complaint("{\"root\": \"\xff\"}"), HasSubstr("line 1, column 11"));
 }
 
-TEST(SessionFile, TellsThePlaceOfANumberThatIsTooLarge) {
+TEST(SessionFile, NamesThePlaceOfANumberThatIsTooLarge) {
   EXPECT_EQ(Complaint(R"({"root": "car", "products": {"car": {"children": [{}, {"name": 1e999}]}}})"),
             "car.json: /products/car/children/1/name: the number 1e999 is too large");
   EXPECT_EQ(Complaint("-1e999"), "car.json: the whole document: the number -1e999 is too large");
