@@ -158,6 +158,10 @@ TEST_F(CommandsOfTwoWorkingCopies, StatusAsksTheManagerOfTheProduct) {
   EXPECT_THAT(RepositoriesOf("status --by-root car/axle.1"), ElementsAre("/cvs/root"));
 }
 
+TEST_F(CommandsOfTwoWorkingCopies, RemoveAsksTheManagerOfTheRoot) {
+  EXPECT_THAT(RepositoriesOf("remove \"" + Host("parts/axle.CATPart") + "\""), ElementsAre("/cvs/root"));
+}
+
 TEST_F(CommandRuns, RefreshInSubversionTakesThePartOfTheTreeThatIsNamed) {
   WriteFile(folder_ / "wc/.svn/entries", "10\n");
   const auto session = Session(R"({"root": "car", "products": {

@@ -93,6 +93,13 @@ TEST_F(RefreshReason, IsOneLineWhateverTheNames) {
             "zrkhost: refresh \"a\\nb\": the product has no document, so no folder was looked at\n");
 }
 
+TEST_F(RefreshReason, ChangesNeitherResultNorOutput) {
+  const ScriptedClient clients;
+  const auto report = Report({CarSession(), "-c", "refresh", "-c", "tree"});
+  EXPECT_EQ(CommandOf(report, 0)["result"], nullptr);
+  EXPECT_EQ(CommandOf(report, 0)["output"], "");
+}
+
 TEST_F(RefreshReason, IsNotGivenWhenSomethingIsShown) {
   ScriptedClient client;
   client.When("status -v")

@@ -81,6 +81,42 @@ TEST_F(Terminal, GetsCommentsCutToItsWidth) {
   EXPECT_THAT(Zrkhost({session, "-c", "tree"}).Output, HasSubstr(comment));
 }
 
+TEST_F(Terminal, ShowsEachProductOnOneOfItsLinesAlsoIn40Columns) {
+  const auto session = Session(Json{
+      {"root", "car"},
+      {"products",
+       {{"car",
+         {{"attributes", {{"Revision", "1.17"}, {"Status", "ReadOnly"}, {"Release", "release-2 and more"}}},
+          {"children", {{{"name", "a door on the left with a window"}, {"reference", nullptr}}}}}}}}}
+                                   .dump());
+  PseudoTerminal terminal(Program(), {session, "-c", "tree"}, 40);
+  EXPECT_EQ(terminal.Finish(), 0);
+  EXPECT_THAT(terminal.Screen(), testing::ElementsAre("Product" + std::string(29, ' ') + "Rev\u2026",
+                                                      "car" + std::string(33, ' ') + "1.17",
+                                                      "  a door on the left with a window", ""));
+}
+
+TEST_F(Terminal, OfAnyKindShowsTheReasonOfAnEmptyRefresh) {
+  const auto reason =
+      "zrkhost: refresh: no working copy beside any document; the first folder looked at is " + Host("");
+  for (const auto& [name, value] :
+       {std::pair{"TERM", "xterm"}, std::pair{"TERM", "dumb"}, std::pair{"NO_COLOR", "1"}}) {
+    const EnvironmentVariable variable(name, value);
+    PseudoTerminal terminal(Program(), {CarSession(), "-c", "refresh"}, 40);
+    EXPECT_EQ(terminal.Finish(), 0);
+    EXPECT_THAT(terminal.Written(), HasSubstr(reason.substr(0, reason.size() - 1))) << name << value;
+  }
+}
+
+TEST_F(Terminal, GetsNoReasonOfAnEmptyRefreshWithStandardErrorClosed) {
+  const auto report = Path("report.json");
+  PseudoTerminal terminal("/bin/sh", Redirected({CarSession(), "-c", "refresh", "--report", report}, "2>&-"),
+                          80);
+  EXPECT_EQ(terminal.Finish(), 0);
+  EXPECT_THAT(terminal.Screen(), testing::ElementsAre(testing::StartsWith("Product"), "car", ""));
+  EXPECT_EQ(CommandOf(Json::parse(ReadFile(report)), 0)["command"], "refresh");
+}
+
 class TerminalQuestion : public Terminal {
 protected:
   TerminalQuestion() {
@@ -105,6 +141,27 @@ TEST_F(TerminalQuestion, IsAnsweredByThePerson) {
   EXPECT_THAT(yes.Screen, HasSubstr("[CVS] car.CATProduct "));
   EXPECT_THAT(yes.Screen, HasSubstr(" [y/n] "));
   EXPECT_EQ(Converse({session_, "-c", "unedit"}, {{" [y/n] ", "n\n"}}).Status, 1);
+}
+
+TEST_F(TerminalQuestion, IsAskedOnATerminalOfAnyKind) {
+  struct {
+    const char* Name;
+    const char* Value;
+  } const kinds[] = {{"TERM", "dumb"}, {"NO_COLOR", "1"}};
+  for (const auto& [name, value] : kinds) {
+    const EnvironmentVariable variable(name, value);
+    const auto result = Converse({session_, "-c", "unedit"}, {{" [y/n] ", "y\n"}}, 40);
+    EXPECT_EQ(result.Status, 0) << name;
+    EXPECT_THAT(result.Screen, HasSubstr("unedit: result 0, now \"Edit\"\r\n")) << name;
+    EXPECT_THAT(result.Screen, Not(HasSubstr("\x1b"))) << name;
+  }
+}
+
+TEST_F(TerminalQuestion, IsAskedWithStandardErrorClosedThoughItIsNotSeen) {
+  PseudoTerminal terminal("/bin/sh", Redirected({session_, "-c", "unedit"}, "2>&-"), 80);
+  EXPECT_EQ(Converse(terminal, {{"", "y\n"}}).Status, 0);
+  EXPECT_THAT(terminal.Written(), HasSubstr("unedit: result 0, now \"Edit\"\r\n"));
+  EXPECT_THAT(terminal.Written(), Not(HasSubstr("[y/n]")));
 }
 
 TEST_F(TerminalQuestion, IsAskedAgainUntilItIsAnswered) {
