@@ -8,6 +8,9 @@
 // 8-bit in the native encoding (UTF-8 on Linux, the active code page on Windows).
 namespace zrkhost {
 
+// What stands for something that is no character.
+inline constexpr char32_t kReplacementCharacter = 0xFFFD;
+
 // Always well-formed: what is no character becomes U+FFFD.
 std::string Utf8FromWide(std::wstring_view text);
 std::string Utf8FromNative(std::string_view text);

@@ -8,8 +8,6 @@ namespace zrkhost {
 
 namespace {
 
-constexpr wchar_t kReplacement = 0xFFFD;
-
 bool IsHighSurrogate(wchar_t character) {
   return character >= 0xD800 && character < 0xDC00;
 }
@@ -28,7 +26,9 @@ std::string Utf8FromWide(std::wstring_view text) {
       characters += 0x10000 + ((text[i] - 0xD800) << 10) + (text[i + 1] - 0xDC00);
       ++i;
     } else {
-      characters += IsHighSurrogate(text[i]) || IsLowSurrogate(text[i]) ? kReplacement : text[i];
+      characters += IsHighSurrogate(text[i]) || IsLowSurrogate(text[i])
+                        ? static_cast<wchar_t>(kReplacementCharacter)
+                        : text[i];
     }
   }
   return standin::NativeFromWide(characters);

@@ -10,6 +10,8 @@
 
 namespace zrkhost {
 
+using Json = nlohmann::ordered_json;
+
 namespace {
 
 // A text that keeps its direction of writing, and its marks for that, to itself.
@@ -205,7 +207,6 @@ std::string PageParts::Holders() const {
 }
 
 std::string PageParts::Data() const {
-  using Json = nlohmann::ordered_json;
   // Every text was made well-formed when it was taken over; should one not be, it is still written.
   const auto text = [](const Json& json) {
     return json.dump(-1, ' ', false, Json::error_handler_t::replace);

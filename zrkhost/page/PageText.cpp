@@ -8,8 +8,6 @@ namespace zrkhost {
 
 namespace {
 
-constexpr char32_t kReplacement = 0xFFFD;
-
 bool IsNoCharacterOfHtml(char32_t character) {
   const bool control = character >= 0x7F && character < 0xA0;
   const bool surrogate = character >= 0xD800 && character < 0xE000;
@@ -21,7 +19,7 @@ char32_t Shown(char32_t character) {
   if (character == '\n' || character == '\t') return character;
   if (character < 0x20) return 0x2400 + character;
   if (character == 0x7F) return 0x2421;
-  return IsNoCharacterOfHtml(character) ? kReplacement : character;
+  return IsNoCharacterOfHtml(character) ? kReplacementCharacter : character;
 }
 
 // Null when the character stands for itself.

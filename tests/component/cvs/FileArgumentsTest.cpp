@@ -1,3 +1,4 @@
+#include "component/product/NoProduct.h"
 #include "cvs/FileArguments.h"
 
 #include <gmock/gmock.h>
@@ -16,8 +17,6 @@ using testing::Pair;
 using zrk::cvs::RelativePath;
 
 namespace {
-
-class NoProduct : public CATBaseUnknown {};
 
 class AFileArgument : public testing::Test {
 protected:

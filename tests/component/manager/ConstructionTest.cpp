@@ -3,17 +3,13 @@
 #include "attributes/AttributeDictionary.h"
 #include "component/manager/AffirmedReference.h"
 #include "component/manager/CVSStage.h"
+#include "component/product/NoProduct.h"
 #include "support/DebugMessages.h"
 #include "support/DialogRecorder.h"
 #include "support/Files.h"
 #include "support/HostText.h"
 
 namespace {
-
-class NoProduct : public CATBaseUnknown {
-public:
-  ~NoProduct() override = default;
-};
 
 class ANewManager : public testing::Test, protected CVSStage {};
 

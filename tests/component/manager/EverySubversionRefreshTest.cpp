@@ -12,14 +12,14 @@
 
 namespace {
 
-struct Form {
+struct FormCase {
   std::string Name;
   bool IsDatabase;
   // For one product.
   std::size_t Runs;
 };
 
-class EverySubversionRefresh : public DatabaseStage, public testing::WithParamInterface<Form> {
+class EverySubversionRefresh : public DatabaseStage, public testing::WithParamInterface<FormCase> {
 protected:
   EverySubversionRefresh() {
     Products.Add("car", "wc/car");
@@ -76,7 +76,7 @@ TEST_P(EverySubversionRefresh, WithoutAnAttributeDictionaryStillAsksAndRedraws) 
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, EverySubversionRefresh,
-                         testing::Values(Form{"TextEntries", false, 2}, Form{"Database", true, 1}),
+                         testing::Values(FormCase{"TextEntries", false, 2}, FormCase{"Database", true, 1}),
                          [](const auto& form) { return form.param.Name; });
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "CATIProduct.h"
 #include "CATISpecObject.h"
+#include "component/product/NoProduct.h"
 #include "support/Assembly.h"
 
 using zrk::product::DocumentState;
@@ -11,8 +12,6 @@ using zrk::product::ProductDocument;
 using zrk::product::ReachDocument;
 
 namespace {
-
-class NoProduct : public CATBaseUnknown {};
 
 class AProductsDocument : public testing::Test {
 protected:

@@ -40,29 +40,29 @@ protected:
   const Launches Launched;
 };
 
-using Texts = std::vector<std::wstring>;
+using WideLines = std::vector<std::wstring>;
 
 TEST_F(SVNCommandLines, OfALock) {
   Manager()->Edit();
-  EXPECT_EQ(Lines(), (Texts{L" update \"" + Path() + L"\"", L" lock \"" + Path() + L"\"",
-                            L" status -v -u \"" + Path() + L"\""}));
+  EXPECT_EQ(Lines(), (WideLines{L" update \"" + Path() + L"\"", L" lock \"" + Path() + L"\"",
+                                L" status -v -u \"" + Path() + L"\""}));
 }
 
 TEST_F(SVNCommandLines, OfAnUnlock) {
   Manager()->Unedit();
-  EXPECT_EQ(Lines(), (Texts{L" unlock \"" + Path() + L"\"", L" status -v -u \"" + Path() + L"\""}));
+  EXPECT_EQ(Lines(), (WideLines{L" unlock \"" + Path() + L"\"", L" status -v -u \"" + Path() + L"\""}));
 }
 
 TEST_F(SVNCommandLines, OfADeletionHasTwoBlanksBeforeThePath) {
   Manager()->SVNDelete(Folder.Host("wc/old part.CATPart").c_str());
-  EXPECT_EQ(Lines(), (Texts{L" delete -m\"zq\" --force  \"" +
-                            standin::WideFromNative(Folder.Host("wc/old part.CATPart")) + L"\""}));
+  EXPECT_EQ(Lines(), (WideLines{L" delete -m\"zq\" --force  \"" +
+                                standin::WideFromNative(Folder.Host("wc/old part.CATPart")) + L"\""}));
 }
 
 TEST_F(SVNCommandLines, OfARefresh) {
   Manager()->RefreshStatus(Products.At("car"));
   EXPECT_EQ(Lines(),
-            (Texts{L" status -v -u \"" + Path() + L"\"", L" status -v -u --xml \"" + Path() + L"\""}));
+            (WideLines{L" status -v -u \"" + Path() + L"\"", L" status -v -u --xml \"" + Path() + L"\""}));
 }
 
 TEST_F(SVNCommandLines, KeepNamesOfAnyAlphabet) {
@@ -77,7 +77,7 @@ TEST_F(SVNCommandLines, OfARefusedDeletionThereAreNone) {
   ZRKECVSManager manager(*Products.At("car").Get());
   manager.IsSVN = false;
   EXPECT_EQ(manager.SVNDelete(Folder.Host(Document).c_str()), E_FAIL);
-  EXPECT_EQ(Lines(), Texts{});
+  EXPECT_EQ(Lines(), WideLines{});
 }
 
 }  // namespace

@@ -18,19 +18,19 @@ using zrk::svn::ReportedFile;
 using zrk::svn::ReportedFiles;
 using zrk::svn::Repository;
 
-ReportedFiles Read(const std::string& report, Repository repository = Repository::Asked) {
+ReportedFiles ReadReport(const std::string& report, Repository repository = Repository::Asked) {
   ReportedFiles files;
   EXPECT_TRUE(ReadWorkingCopyReport(report.c_str(), repository, "", files));
   return files;
 }
 
 ReportedFile ReadOne(const Entry& entry, Repository repository = Repository::Asked) {
-  const ReportedFiles files = Read(Report({entry}), repository);
+  const ReportedFiles files = ReadReport(Report({entry}), repository);
   EXPECT_EQ(files.size(), 1U);
   return files.empty() ? ReportedFile{} : files.begin()->second;
 }
 
-std::vector<std::string> Paths(const ReportedFiles& files) {
+std::vector<std::string> PathsOf(const ReportedFiles& files) {
   std::vector<std::string> paths;
   for (const auto& [path, file] : files) paths.push_back(path);
   std::sort(paths.begin(), paths.end());
@@ -44,7 +44,7 @@ TEST(WorkingCopyReport, NamesEachFileByItsPathSeparatedByBackslashesBehindTheFol
   EXPECT_TRUE(ReadWorkingCopyReport(
       Report({{.Path = "sub/deep/a.CATPart"}, {.Path = "sub\\b.CATPart"}, {.Path = "c"}}).c_str(),
       Repository::Asked, "C:\\wc\\", files));
-  EXPECT_EQ(Paths(files), (Names{"C:\\wc\\c", "C:\\wc\\sub\\b.CATPart", "C:\\wc\\sub\\deep\\a.CATPart"}));
+  EXPECT_EQ(PathsOf(files), (Names{"C:\\wc\\c", "C:\\wc\\sub\\b.CATPart", "C:\\wc\\sub\\deep\\a.CATPart"}));
 }
 
 TEST(WorkingCopyReport, AddsToWhatIsThereAndTheFirstEntryOfAPathHolds) {
@@ -54,7 +54,7 @@ TEST(WorkingCopyReport, AddsToWhatIsThereAndTheFirstEntryOfAPathHolds) {
   };
   add({{.Path = "a", .Revision = "3"}, {.Path = "a", .Revision = "4"}});
   add({{.Path = "a", .Revision = "5"}, {.Path = "b", .Revision = "6"}});
-  EXPECT_EQ(Paths(files), (Names{"a", "b"}));
+  EXPECT_EQ(PathsOf(files), (Names{"a", "b"}));
   EXPECT_EQ(files.at("a").Revision, "3");
   EXPECT_EQ(files.at("b").Revision, "6");
 }
@@ -90,17 +90,17 @@ TEST(WorkingCopyReport, HoldsTheEntriesOfChangelistsBesideTheTarget) {
                              reports::Text(LockedHere("sub/b", {"t", "anna"})) +
                              "</changelist>\r\n<changelist\r\n   name=\"other\">\r\n" +
                              reports::Text(Entry{.Path = "c"}) + "</changelist>\r\n</status>\r\n";
-  const ReportedFiles files = Read(report);
-  EXPECT_EQ(Paths(files), (Names{"a", "c", "sub\\b"}));
+  const ReportedFiles files = ReadReport(report);
+  EXPECT_EQ(PathsOf(files), (Names{"a", "c", "sub\\b"}));
   EXPECT_TRUE(files.at("sub\\b").IsLockedHere);
 }
 
 TEST(WorkingCopyReport, TakesAFileExternalForAFile) {
   const ReportedFiles files =
-      Read(kHead +
-           "<entry path=\"e.CATPart\"><wc-status item=\"normal\" file-external=\"true\" revision=\"2\">"
-           "<commit revision=\"1\"/></wc-status></entry>" +
-           kTail);
+      ReadReport(kHead +
+                 "<entry path=\"e.CATPart\"><wc-status item=\"normal\" file-external=\"true\" revision=\"2\">"
+                 "<commit revision=\"1\"/></wc-status></entry>" +
+                 kTail);
   EXPECT_TRUE(files.at("e.CATPart").IsVersioned());
   EXPECT_EQ(files.at("e.CATPart").Revision, "1");
 }
@@ -115,7 +115,7 @@ TEST(WorkingCopyReport, HoldsOwnersAndCommentsOfAnyCharactersAndLines) {
 }
 
 TEST(WorkingCopyReport, HoldsPathsWithCharactersThatXMLEscapes) {
-  EXPECT_EQ(Paths(Read(Report({{.Path = "Rad <&> \"x\" @1 'y'/-a.CATPart"}}))),
+  EXPECT_EQ(PathsOf(ReadReport(Report({{.Path = "Rad <&> \"x\" @1 'y'/-a.CATPart"}}))),
             Names{"Rad <&> \"x\" @1 'y'\\-a.CATPart"});
 }
 
@@ -123,17 +123,17 @@ TEST(WorkingCopyReport, LeavesOutAnEntryWithoutAPath) {
   const std::string status = "<wc-status item=\"normal\"><commit revision=\"1\"/></wc-status>";
   const std::string report =
       kHead + "<entry>" + status + "</entry><entry path=\"\">" + status + "</entry>" + kTail;
-  EXPECT_TRUE(Read(report).empty());
+  EXPECT_TRUE(ReadReport(report).empty());
 }
 
 TEST(WorkingCopyReport, LeavesOutAnEntryWithoutAStatus) {
-  EXPECT_TRUE(Read(kHead + "<entry path=\"a\"></entry><entry path=\"b\"><repos-status item=\"none\">" +
-                   reports::Text(Lock{"t", "ben"}) + "</repos-status></entry>" + kTail)
+  EXPECT_TRUE(ReadReport(kHead + "<entry path=\"a\"></entry><entry path=\"b\"><repos-status item=\"none\">" +
+                         reports::Text(Lock{"t", "ben"}) + "</repos-status></entry>" + kTail)
                   .empty());
 }
 
 TEST(WorkingCopyReport, OfAStatusWithoutAWordHoldsNothing) {
-  EXPECT_FALSE(Read(kHead + "<entry path=\"a\"><wc-status/></entry>" + kTail).at("a").IsVersioned());
+  EXPECT_FALSE(ReadReport(kHead + "<entry path=\"a\"><wc-status/></entry>" + kTail).at("a").IsVersioned());
 }
 
 TEST(WorkingCopyReport, TakesARevisionThatIsNoNumberAsItStands) {
@@ -146,14 +146,14 @@ TEST(WorkingCopyReport, TakesARevisionThatIsNoNumberAsItStands) {
 TEST(WorkingCopyReport, LeavesOutEntriesWithinEntriesAndThoseAroundThem) {
   const std::string inner = reports::Text(LockedElsewhere("inner", {"t", "ben"}));
   const std::string outer = "<entry path=\"outer\"><wc-status item=\"normal\"/>" + inner + inner + "</entry>";
-  EXPECT_EQ(Paths(Read(kHead + reports::Text(Entry{.Path = "a"}) + outer + "<x>" + outer + "</x>" +
-                       reports::Text(Entry{.Path = "b"}) + kTail)),
+  EXPECT_EQ(PathsOf(ReadReport(kHead + reports::Text(Entry{.Path = "a"}) + outer + "<x>" + outer + "</x>" +
+                               reports::Text(Entry{.Path = "b"}) + kTail)),
             (Names{"a", "b"}));
 }
 
 TEST(WorkingCopyReport, GivesALockOfOneEntryToNoOther) {
   const ReportedFiles files =
-      Read(Report({{.Path = "a"}, LockedElsewhere("b", {"t", "ben"}), {.Path = "c"}}));
+      ReadReport(Report({{.Path = "a"}, LockedElsewhere("b", {"t", "ben"}), {.Path = "c"}}));
   for (const char* path : {"a", "c"}) {
     EXPECT_FALSE(files.at(path).IsLockedByOther) << path;
     EXPECT_EQ(Text(files.at(path).LockOwner), "") << path;

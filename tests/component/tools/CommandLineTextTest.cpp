@@ -10,7 +10,7 @@
 
 namespace {
 
-std::wstring Wide(const std::string& text) {
+std::wstring WideOf(const std::string& text) {
   return CATUnicodeString(text.c_str()).ConvertToWideChar();
 }
 
@@ -46,8 +46,8 @@ TEST(ToolCommandLine, TheProgramAndTheFolderGoApartFromIt) {
   const Launches launches;
   tool.Run();
   ASSERT_EQ(launches.All().size(), 1u);
-  EXPECT_EQ(launches.All()[0].Program, Wide(tool.Client.HostPath("cvs.exe")));
-  EXPECT_EQ(launches.All()[0].Folder, Wide(tool.Folder.Host()));
+  EXPECT_EQ(launches.All()[0].Program, WideOf(tool.Client.HostPath("cvs.exe")));
+  EXPECT_EQ(launches.All()[0].Folder, WideOf(tool.Folder.Host()));
   EXPECT_TRUE(launches.All()[0].Started);
 }
 

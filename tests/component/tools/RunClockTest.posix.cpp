@@ -24,28 +24,28 @@ private:
   const std::int64_t milliseconds_;
 };
 
-constexpr std::int64_t kHour = 3'600'000;
+constexpr std::int64_t kOneHour = 3'600'000;
 
 }  // namespace
 
 TEST(RunClock, MeasuresInMilliseconds) {
   const RunClock clock;
-  const MovedClock later(kHour);
-  EXPECT_GE(clock.Elapsed(), kHour);
-  EXPECT_LT(clock.Elapsed(), 2 * kHour);
+  const MovedClock later(kOneHour);
+  EXPECT_GE(clock.Elapsed(), kOneHour);
+  EXPECT_LT(clock.Elapsed(), 2 * kOneHour);
 }
 
 TEST(RunClock, GivesLessThanNothingWhenTheClockIsSetBack) {
   const RunClock clock;
-  const MovedClock earlier(-2 * kHour);
-  EXPECT_GE(clock.Elapsed(), -2 * kHour);
-  EXPECT_LT(clock.Elapsed(), -kHour);
+  const MovedClock earlier(-2 * kOneHour);
+  EXPECT_GE(clock.Elapsed(), -2 * kOneHour);
+  EXPECT_LT(clock.Elapsed(), -kOneHour);
 }
 
 TEST(RunClock, MeasuresOnWhenTheClockRunsOver) {
-  const MovedClock nearTheEnd((std::int64_t{1} << 32) - kHour);
+  const MovedClock nearTheEnd((std::int64_t{1} << 32) - kOneHour);
   const RunClock clock;
-  const MovedClock later(2 * kHour);
-  EXPECT_GE(clock.Elapsed(), 2 * kHour);
-  EXPECT_LT(clock.Elapsed(), 3 * kHour);
+  const MovedClock later(2 * kOneHour);
+  EXPECT_GE(clock.Elapsed(), 2 * kOneHour);
+  EXPECT_LT(clock.Elapsed(), 3 * kOneHour);
 }

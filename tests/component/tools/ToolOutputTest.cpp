@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr std::size_t kChunk = 4096;
+constexpr std::size_t kPieceOfOutput = 4096;
 
 }  // namespace
 
@@ -48,7 +48,8 @@ TEST(ToolOutput, IsKeptWhateverStatusTheClientEndsWith) {
 }
 
 TEST(ToolOutput, MayEndAtTheEdgeOfAChunk) {
-  for (const std::size_t size : {kChunk - 1, kChunk, kChunk + 1, 2 * kChunk, 3 * kChunk}) {
+  for (const std::size_t size :
+       {kPieceOfOutput - 1, kPieceOfOutput, kPieceOfOutput + 1, 2 * kPieceOfOutput, 3 * kPieceOfOutput}) {
     ToolRunner tool;
     tool.Client.Otherwise().Repeat(size, "x");
     EXPECT_EQ(tool.Run(), std::string(size, 'x')) << size;
@@ -56,7 +57,7 @@ TEST(ToolOutput, MayEndAtTheEdgeOfAChunk) {
 }
 
 TEST(ToolOutput, ACharacterMayLieAcrossTheEdgeOfAChunk) {
-  const std::string text = std::string(kChunk - 1, 'x') + "\xC3\xA4" + "\r\n";
+  const std::string text = std::string(kPieceOfOutput - 1, 'x') + "\xC3\xA4" + "\r\n";
   ToolRunner tool;
   tool.Client.Otherwise().Out(text);
   EXPECT_EQ(tool.Run(), text);
@@ -75,7 +76,7 @@ TEST(ToolOutput, EachChunkOf4096BytesIsCutAtItsFirstZero) {
   std::string bytes;
   std::string expected;
   for (const std::string text : {"one ", "two ", "three ", "four"}) {
-    bytes += text + std::string(kChunk - text.size(), '\0');
+    bytes += text + std::string(kPieceOfOutput - text.size(), '\0');
     bytes.back() = 'x';
     expected += text;
   }
@@ -85,7 +86,7 @@ TEST(ToolOutput, EachChunkOf4096BytesIsCutAtItsFirstZero) {
 }
 
 TEST(ToolOutput, AChunkThatBeginsWithAZeroAddsNothing) {
-  std::string bytes = std::string(kChunk, 'x') + "next";
+  std::string bytes = std::string(kPieceOfOutput, 'x') + "next";
   bytes[0] = '\0';
   ToolRunner tool;
   tool.Client.Otherwise().Out(bytes);
@@ -113,11 +114,11 @@ TEST(ToolOutput, TheWriteEndOfTheClientsInputStaysOpenForAnAnswer) {
 TEST(ToolOutput, EndsWhenTheClientWritesNoByte) {
   ToolRunner tool;
   tool.Client.Otherwise()
-      .Out(std::string(kChunk, 'x') + "lost")
+      .Out(std::string(kPieceOfOutput, 'x') + "lost")
       .Repeat(10'000, "a line\r\n")
       .Store("done", "x");
   standin::FailWindowsCall(standin::WindowsCall::ReadFileEmpty, 1);
-  EXPECT_EQ(tool.Run(), std::string(kChunk, 'x'));
+  EXPECT_EQ(tool.Run(), std::string(kPieceOfOutput, 'x'));
   tool.ClosePipes();
   EXPECT_TRUE(std::filesystem::exists(tool.Folder / "done")) << "the rest of its output was not read";
 }
