@@ -14,7 +14,7 @@ namespace {
 
 // A report of many empty lines would be filed once for each of them, at the square of its length. Beyond
 // the length of the report, this bounds what such lines may take in all.
-constexpr std::size_t kWrappedLinesLimit = std::size_t{16} << 20;
+constexpr std::size_t kWrappedLinesLimit = std::size_t{64} << 10;
 
 void AddEditLine(std::string_view line, const CATUnicodeString& sandboxRoot, ReportTable& table) {
   const std::string_view name = line.substr(0, line.find('\t'));

@@ -10,7 +10,7 @@ using namespace zrk::cvs;
 const CATUnicodeString kSandboxRoot = "\\home\\anna\\";
 const std::size_t kSandboxSize = static_cast<std::size_t>(kSandboxRoot.GetLengthInByte());
 // What the lines of wrapped length may take in all.
-constexpr std::size_t kWrappedLinesLimit = std::size_t{16} << 20;
+constexpr std::size_t kWrappedLinesLimit = std::size_t{64} << 10;
 
 ReportTable Read(std::string_view report) {
   ReportTable table;
