@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -61,7 +62,7 @@ double SecondsToFilter(Browser& browser, const std::string& text, int rows) {
 }
 
 std::string Milliseconds(double seconds) {
-  return std::to_string(static_cast<int>(seconds * 1000 + 0.5)) + " ms";
+  return std::to_string(std::lround(seconds * 1000)) + " ms";
 }
 
 }  // namespace

@@ -102,8 +102,7 @@ int ReportFailure(const InstalledClient& client, const char* what, int error) {
 std::optional<std::string> FindClient(const InstalledClient& client) {
   std::string program = FindAlongPath(client.Program);
   if (!program.empty()) return program;
-  std::fprintf(stderr,
-               "%s: the program \"%s\" is not on the PATH; install it (Debian: apt-get install %s)\n",
+  std::fprintf(stderr, "%s: the program \"%s\" is not on the PATH; install it (Debian: apt-get install %s)\n",
                client.AdapterName.c_str(), client.Program.c_str(), client.Package.c_str());
   return std::nullopt;
 }

@@ -34,7 +34,7 @@ using Products = std::vector<CATBaseUnknown_var>;
 
 // All checks on a product of an open assembly, by subject and in the order of the table.
 void CheckAll(Table& table, CATBaseUnknown& product, const HostFunctions& host);
-void CheckFramework(Table& table, const CATBaseUnknown_var& product, const HostFunctions& host);
+void CheckFramework(Table& table, const CATBaseUnknown_var& object, const HostFunctions& host);
 // Gives the products looked at.
 Products CheckProducts(Table& table, const CATBaseUnknown_var& product, const HostFunctions& host);
 void CheckAttributes(Table& table, const Products& products, const HostFunctions& host);

@@ -46,8 +46,8 @@ CATMetaClass* RetrieveExtension(const HostFunctions& host) {
 }
 
 CATMetaClass* TieMetaClass() {
-  static CATMetaClass* const meta = new CATMetaClass(ZRKIHostCheck::ClassId(), "ZRKIHostCheck",
-                                                     ZRKIHostCheck::MetaObject(), RetrieveExtension({}));
+  static auto* const meta = new CATMetaClass(ZRKIHostCheck::ClassId(), "ZRKIHostCheck",
+                                             ZRKIHostCheck::MetaObject(), RetrieveExtension({}));
   return meta;
 }
 
@@ -105,6 +105,7 @@ void CheckFramework(Table& table, const CATBaseUnknown_var& object, const HostFu
     named("an extension's", RetrieveExtension(host), "ZRKEHostCheck");
     named("an interface's", ZRKIHostCheck::MetaObject(), "ZRKIHostCheck");
     named("a tie's", TieMetaClass(), "ZRKIHostCheck");
+    // NOLINTNEXTLINE(misc-redundant-expression): each call may give another
     expect(RetrieveExtension(host) == RetrieveExtension(host), "an extension has two");
   });
   table.Row("CATFillDictionary, CATTie", [&](Expectations& expect) {

@@ -136,7 +136,7 @@ Products CheckProducts(Table& table, const CATBaseUnknown_var& product, const Ho
     for (const CATBaseUnknown_var& reference : stored) {
       const std::string path = DocumentOf(reference)->StorageName().ConvertToChar();
       const bool hasRoot = path.starts_with("\\") || path.substr(1, 2) == ":\\";
-      expect(hasRoot && path.find('/') == path.npos, "no full path separated by \\: ", path);
+      expect(hasRoot && path.find('/') == std::string::npos, "no full path separated by \\: ", path);
     }
   });
   table.Row("CATIRedrawEvent: Redraw", [&](Expectations& expect) {

@@ -56,7 +56,7 @@ void CheckServices(Table& table, const HostFunctions& host) {
     const CATUnicodeString name(program.filename().wstring().c_str());
     const bool found = host.GetRuntimeFilePath("PATH", name, path);
     std::wstring wide = path.ConvertToWideChar();
-    const bool isSlashed = wide.find(L'/') != wide.npos;
+    const bool isSlashed = wide.find(L'/') != std::wstring::npos;
     std::replace(wide.begin(), wide.end(), L'\\', L'/');
     std::error_code error;
     expect(found && !isSlashed && fs::equivalent(wide, program, error), name, " is found as ", path);
@@ -65,7 +65,8 @@ void CheckServices(Table& table, const HostFunctions& host) {
   });
   table.Row("ZRKCorParserServices: SplitFilePath", [&](Expectations& expect) {
     const auto gives = [&](const char* path, const char* expectedFolder, const char* expectedName) {
-      CATUnicodeString folder("left over"), name("left over");
+      CATUnicodeString folder("left over");
+      CATUnicodeString name("left over");
       host.SplitFilePath(path, folder, name);
       expect(folder == expectedFolder && name == expectedName, path, " is ", folder, " and ", name);
     };

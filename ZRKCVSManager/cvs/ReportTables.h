@@ -27,9 +27,9 @@ void AddStatusReport(std::string_view report, const CATUnicodeString& sandboxRoo
 // The key is `sandboxRoot` followed by the text up to the first tab with "/" turned into "\", the value
 // is the line with its tabs turned into line feeds.
 //
-// The length of an empty line, less its last character, wraps: the line is all the rest of the report, and only
-// a path with a line end would be looked up there. Once such lines took the length of the report and 64 KiB more
-// in all, further ones are left out.
+// The length of an empty line, less its last character, wraps: the line is all the rest of the report, and
+// only a path with a line end would be looked up there. Once such lines took the length of the report and 64
+// KiB more in all, further ones are left out.
 void AddEditReport(std::string_view report, const CATUnicodeString& sandboxRoot, ReportTable& table);
 
 }  // namespace zrk::cvs

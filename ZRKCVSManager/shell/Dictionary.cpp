@@ -39,7 +39,7 @@ bool Enter(CATBaseUnknown* (*createTie)(CATBaseUnknown*)) {
   });
 }
 
-[[maybe_unused]] const bool entered[] = {
+[[maybe_unused]] const bool kEntered[] = {
     Enter<ZRKECVS, ZRKICVS>(CreateTIEZRKICVSZRKECVS),
     Enter<ZRKECVSManager, ZRKICVSManager>(CreateTIEZRKICVSManagerZRKECVSManager),
     Enter<ZRKECVSModifiable, ZRKICVSModifiable>(CreateTIEZRKICVSModifiableZRKECVSModifiable),

@@ -22,7 +22,7 @@ private:
 }  // namespace
 
 AttributeInstance* AttributeInstance::Create(const AttributeClassDescription& description) {
-  AttributeInstance* const instance = new AttributeInstance;
+  auto* const instance = new AttributeInstance;
   if (!instance) return nullptr;
   for (const std::string& name : description.Parameters) {
     auto value = CATICkeParm_var::Adopt(new AttributeParameter);

@@ -10,8 +10,8 @@ namespace standin {
 
 // The elements of an XML document with their text, in the platform's encoding.
 //
-// Elements lie in one list in document order, their attributes in another, and all text in one string: what is
-// below an element is a range of each. So every search is a scan, and a document of any depth ends without
+// Elements lie in one list in document order, their attributes in another, and all text in one string: what
+// is below an element is a range of each. So every search is a scan, and a document of any depth ends without
 // recursion.
 class XmlTree {
 public:

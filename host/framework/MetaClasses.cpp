@@ -13,7 +13,7 @@ struct Registry {
 
 // Never destroyed: libraries that are unloaded after this one still hold meta-objects.
 Registry& TheRegistry() {
-  static Registry* const registry = new Registry;
+  static auto* const registry = new Registry;
   return *registry;
 }
 
@@ -37,7 +37,7 @@ CATMetaClass* fct_RetrieveMetaObject(const char* className, CATMetaClassKind kin
   auto& classes = TheRegistry().Classes;
   if (const auto known = classes.find(className); known != classes.end()) return known->second;
 
-  CATMetaClass* const meta = new CATMetaClass;
+  auto* const meta = new CATMetaClass;
   if (!meta) return nullptr;
   meta->name_ = className;
   meta->kind_ = kind;
@@ -55,7 +55,7 @@ CATMetaClass* fct_RetrieveInterfaceMetaObject(const CATIID& interfaceId, const c
   if (const auto known = registry.Interfaces.find(interfaceId); known != registry.Interfaces.end()) {
     return known->second;
   }
-  CATMetaClass* const meta = new CATMetaClass;
+  auto* const meta = new CATMetaClass;
   if (!meta) return nullptr;
   meta->name_ = name;
   meta->kind_ = CATMetaClassKind::Interface;

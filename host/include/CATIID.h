@@ -14,5 +14,6 @@ struct CATIID {
 
   // NOLINTNEXTLINE(modernize-use-nullptr): taken for a null pointer is the 0 of a comparison that is not
   // written here.
+  // NOLINTNEXTLINE(modernize-use-nullptr): takes what the compiler adds for a null pointer
   auto operator<=>(const CATIID&) const = default;
 };

@@ -81,7 +81,7 @@ void ChildReaper::Run() {
       }
     }
     poll(awaited.data(), awaited.size(), timeout);
-    eventfd_t ignored;
+    eventfd_t ignored = 0;
     eventfd_read(news_.Get(), &ignored);
   }
 }

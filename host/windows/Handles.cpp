@@ -69,7 +69,7 @@ BOOL ReadFile(HANDLE handle, LPVOID buffer, DWORD size, LPDWORD read, LPOVERLAPP
   if (!object || overlapped) return FALSE;
   if (size == 0) return CanBeRead(object->Descriptor.Get());
 
-  ssize_t count;
+  ssize_t count = 0;
   do {
     count = ::read(object->Descriptor.Get(), buffer, size);
   } while (count < 0 && errno == EINTR);

@@ -91,7 +91,7 @@ long TextModeFile::Seek(long offset, int origin) {
 }
 
 long TextModeFile::ReadRaw(char* buffer, std::size_t size) {
-  ssize_t result;
+  ssize_t result = 0;
   do {
     result = read(file_.Get(), buffer, size);
   } while (result < 0 && errno == EINTR);

@@ -9,7 +9,7 @@ namespace {
 
 using std::chrono::steady_clock;
 
-const steady_clock::time_point processStart = steady_clock::now();
+const steady_clock::time_point kProcessStart = steady_clock::now();
 std::atomic<std::int64_t> moved = 0;
 
 }  // namespace
@@ -23,5 +23,5 @@ void standin::MoveClock(std::int64_t milliseconds) {
 // NOLINTNEXTLINE(bugprone-reserved-identifier): the linker gives the name
 extern "C" std::clock_t __wrap_clock() {
   using std::chrono::milliseconds;
-  return std::chrono::duration_cast<milliseconds>(steady_clock::now() - processStart).count() + moved;
+  return std::chrono::duration_cast<milliseconds>(steady_clock::now() - kProcessStart).count() + moved;
 }

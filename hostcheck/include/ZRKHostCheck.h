@@ -17,7 +17,7 @@ enum ZRKHostCheckResult {
 // Hears of one check: its name, a ZRKHostCheckResult, and what was found instead of what is expected or, when
 // nothing was seen, what is missing; empty when the check holds. The texts are 8-bit text as the host's, and
 // good during the call. It must not throw.
-typedef void (*ZRKHostCheckReport)(void* context, const char* check, int result, const char* found);
+using ZRKHostCheckReport = void (*)(void* context, const char* check, int result, const char* found);
 
 extern "C" {
 

@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::chrono::seconds patience{30};
+constexpr std::chrono::seconds kPatience{30};
 
 class ProcessHandle {
 public:
@@ -35,7 +35,7 @@ public:
   bool WaitForEnd() const {
     if (number_ < 0) return true;
     pollfd event = {.fd = number_, .events = POLLIN, .revents = 0};
-    return poll(&event, 1, static_cast<int>(std::chrono::milliseconds(patience).count())) == 1;
+    return poll(&event, 1, static_cast<int>(std::chrono::milliseconds(kPatience).count())) == 1;
   }
 
 private:

@@ -190,7 +190,7 @@ bool PseudoTerminal::ReadMore(milliseconds time) {
   const int ready = poll(&terminal, 1, static_cast<int>(time.count()));
   if (ready < 0 && errno == EINTR) return true;
   if (ready <= 0) return false;
-  std::array<char, 4096> buffer;
+  std::array<char, 4096> buffer{};
   const ssize_t count = read(terminal_, buffer.data(), buffer.size());
   if (count < 0 && errno == EINTR) return true;
   // Reading fails once the program and its terminal are gone.

@@ -1,5 +1,5 @@
-// Plays the host for the example's module: one product with the document named, refreshed by the module. Prints the
-// product's attributes and ends with what the module gave.
+// Plays the host for the example's module: one product with the document named, refreshed by the module.
+// Prints the product's attributes and ends with what the module gave.
 
 #include <cstdio>
 

@@ -235,7 +235,7 @@ Browser::Json Browser::Receive() {
   std::size_t searched = 0;
   for (;;) {
     const std::size_t end = received_.find('\0', searched);
-    if (end != received_.npos) {
+    if (end != std::string::npos) {
       Json message = Json::parse(received_.substr(0, end));
       received_.erase(0, end + 1);
       if (message.value("method", "") == "Page.lifecycleEvent" && message.at("params").at("name") == "load") {

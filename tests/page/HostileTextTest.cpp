@@ -9,7 +9,7 @@ struct Kind {
   std::string Shown = {};
 };
 
-const std::vector<Kind> kinds = {
+const std::vector<Kind> kKinds = {
     {"Markup", "<img src=x onerror=hit=1><b>bold</b> a<b"},
     {"Ampersands", "&lt;b&gt; &amp; &#60;script&#62; &copy &"},
     {"Quotes", "\" ' ` onclick=\"hit=1\" style='color:red'"},
@@ -45,7 +45,7 @@ protected:
   }
   std::string Shown() const { return GetParam().Shown.empty() ? GetParam().Text : GetParam().Shown; }
 };
-INSTANTIATE_TEST_SUITE_P(Of, PageText, testing::ValuesIn(kinds),
+INSTANTIATE_TEST_SUITE_P(Of, PageText, testing::ValuesIn(kKinds),
                          [](const auto& kind) { return kind.param.Name; });
 
 TEST_P(PageText, ShowsAsTextWhereverItStands) {

@@ -8,11 +8,11 @@ namespace {
 
 using testing::IsSupersetOf;
 
-const std::map<std::string, std::string> files = {{"car.CATProduct", "car\n"},
-                                                  {"Türen/Tür links.CATPart", "door\n"},
-                                                  {"Türen/Tür rechts.CATPart", "door\n"},
-                                                  {"motor/motor.CATProduct", "motor\n"},
-                                                  {"motor/shaft & rod.CATPart", "shaft\n"}};
+const std::map<std::string, std::string> kFiles = {{"car.CATProduct", "car\n"},
+                                                   {"Türen/Tür links.CATPart", "door\n"},
+                                                   {"Türen/Tür rechts.CATPart", "door\n"},
+                                                   {"motor/motor.CATProduct", "motor\n"},
+                                                   {"motor/shaft & rod.CATPart", "shaft\n"}};
 const char* const kLeft = "Türen/Tür links.CATPart";
 const char* const kRight = "Türen/Tür rechts.CATPart";
 
@@ -64,7 +64,7 @@ using CVSPage = CVSWorkingCopies;
 INSTANTIATE_TEST_SUITE_P(Of, CVSPage, testing::Values(""), [](const auto&) { return "AWorkingCopy"; });
 
 TEST_P(CVSPage, ShowsWhatTheReportHolds) {
-  CheckOut(files);
+  CheckOut(kFiles);
   CheckOutForBen();
   BenEdits(kLeft);
   const std::string page = folder_ / "page.html";
@@ -78,7 +78,7 @@ TEST_P(CVSPage, ShowsWhatTheReportHolds) {
 using SVNPage = SVNWorkingCopies;
 
 TEST_F(SVNPage, ShowsWhatTheReportHolds) {
-  CheckOut(files);
+  CheckOut(kFiles);
   repository_.Lock(bensCopy_ / kLeft, "ben", "it sticks,\n<soon> & often");
   repository_.Lock(bensCopy_ / kRight, "ben");
   const std::string page = folder_ / "page.html";

@@ -13,8 +13,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view scriptName = "script";
-constexpr std::string_view logName = "log";
+constexpr std::string_view kScriptName = "script";
+constexpr std::string_view kLogName = "log";
 
 fs::path BuiltClients() {
   return ExecutableFolder() / "scripted";
@@ -115,8 +115,8 @@ ScriptedRule& ScriptedRule::Program(std::string_view name) {
 
 ScriptedClient::ScriptedClient(InstalledClients installed)
     : clients_(installed == InstalledClients::Both ? BuiltClients() : folder_ / "clients"),
-      script_("ZRK_CLIENT_SCRIPT", (folder_ / scriptName).string()),
-      log_("ZRK_CLIENT_LOG", (folder_ / logName).string()) {
+      script_("ZRK_CLIENT_SCRIPT", (folder_ / kScriptName).string()),
+      log_("ZRK_CLIENT_LOG", (folder_ / kLogName).string()) {
   std::string path = clients_.string();
   if (installed == InstalledClients::Both) {
     path += kPathListSeparator + GetEnvironmentValue("PATH").value_or("");
@@ -129,7 +129,7 @@ ScriptedClient::ScriptedClient(InstalledClients installed)
 }
 
 ScriptedRule ScriptedClient::When(std::string_view arguments) {
-  ScriptedRule rule(folder_ / scriptName);
+  ScriptedRule rule(folder_ / kScriptName);
   rule.Append("when " + Escape(arguments));
   return rule;
 }
@@ -137,14 +137,14 @@ ScriptedRule ScriptedClient::When(std::string_view arguments) {
 void ScriptedClient::ClearRules() {
   // Among them the marks of rules that are used up.
   for (const fs::directory_entry& entry : fs::directory_iterator(folder_.Path())) {
-    if (entry.path().filename().string().starts_with(scriptName)) fs::remove(entry.path());
+    if (entry.path().filename().string().starts_with(kScriptName)) fs::remove(entry.path());
   }
 }
 
 std::vector<ClientRun> ScriptedClient::Runs() const {
   std::vector<ClientRun> runs;
-  if (!fs::exists(folder_ / logName)) return runs;
-  std::istringstream log(ReadFile(folder_ / logName));
+  if (!fs::exists(folder_ / kLogName)) return runs;
+  std::istringstream log(ReadFile(folder_ / kLogName));
   // Place in `runs` of the last run with that process number.
   std::map<std::string, std::size_t> places;
   for (std::string line; std::getline(log, line);) {
@@ -160,7 +160,7 @@ std::vector<ClientRun> ScriptedClient::Runs() const {
 }
 
 void ScriptedClient::ClearRuns() {
-  fs::remove(folder_ / logName);
+  fs::remove(folder_ / kLogName);
 }
 
 std::string ScriptedClient::HostPath(std::string_view program) const {

@@ -23,7 +23,7 @@ std::string Utf8FromWide(std::wstring_view text) {
   for (std::size_t i = 0; i < text.size(); ++i) {
     if (IsHighSurrogate(text[i]) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
       // Two that came from a text with 16 bits for each.
-      characters += 0x10000 + ((text[i] - 0xD800) << 10) + (text[i + 1] - 0xDC00);
+      characters += static_cast<wchar_t>(0x10000 + ((text[i] - 0xD800) << 10) + (text[i + 1] - 0xDC00));
       ++i;
     } else {
       characters += IsHighSurrogate(text[i]) || IsLowSurrogate(text[i])

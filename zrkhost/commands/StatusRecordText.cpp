@@ -39,7 +39,7 @@ Json RecordFields(const ZRKCVSStatus& record) {
 std::string ShowRecord(const Json& fields) {
   std::string shown;
   for (const auto& [name, value] : fields.items()) {
-    if (value.is_string() ? value == "" : value == 0) continue;
+    if (value.is_string() ? value.get_ref<const std::string&>().empty() : value == 0) continue;
     shown += name + ": " + DisplayText(value.is_string() ? value.get<std::string>() : value.dump()) + "\n";
   }
   return shown.empty() ? "nothing is known\n" : shown;

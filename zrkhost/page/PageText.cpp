@@ -85,13 +85,14 @@ std::string FillPage(std::string_view page, const std::map<std::string, std::str
   while (true) {
     const std::size_t mark = page.find(kOpen);
     filled += page.substr(0, mark);
-    if (mark == page.npos) return filled;
+    if (mark == std::string_view::npos) return filled;
     page.remove_prefix(mark + kOpen.size());
     const std::string name(page.substr(0, page.find(kClose)));
     const std::string end = std::string(kOpen) + "/" + name + std::string(kClose);
     const auto part = parts.find(name);
     const std::size_t behind = page.find(end);
-    if (part == parts.end() || behind == page.npos) throw std::logic_error("the page's part " + name);
+    if (part == parts.end() || behind == std::string_view::npos)
+      throw std::logic_error("the page's part " + name);
     filled += part->second;
     page.remove_prefix(behind + end.size());
   }

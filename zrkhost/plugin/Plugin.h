@@ -42,7 +42,7 @@ public:
 
 private:
   void (*destroy_)(void*);
-  alignas(ZRKCVSStatus) std::byte storage_[sizeof(ZRKCVSStatus)];
+  alignas(ZRKCVSStatus) std::byte storage_[sizeof(ZRKCVSStatus)]{};
 };
 
 }  // namespace zrkhost

@@ -1,4 +1,4 @@
-#include <wchar.h>
+#include <cwchar>
 
 #include "terminal/CharacterWidth.h"
 #include "terminal/UnicodeLocale.posix.h"

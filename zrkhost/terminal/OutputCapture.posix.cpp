@@ -58,7 +58,7 @@ int OutputCapture::RealOutput() const {
 
 std::string OutputCapture::ReadNew() {
   std::string text;
-  std::array<char, 65536> buffer;
+  std::array<char, 65536> buffer{};
   // The file's own position is where the component writes next, and stays untouched.
   for (;;) {
     const ssize_t count = pread(descriptors_->File.Number, buffer.data(), buffer.size(), descriptors_->Read);

@@ -120,12 +120,12 @@ TEST_P(InstalledClient, IsHeardBeforeItHasItsAnswer) {
   const auto close = [](std::FILE* file) { pclose(file); };
   const std::unique_ptr<std::FILE, decltype(close)> output(popen(command.c_str(), "r"), close);
   ASSERT_TRUE(output);
-  std::array<char, 16> question;
+  std::array<char, 16> question{};
   ASSERT_EQ(std::fread(question.data(), 1, question.size(), output.get()), question.size());
   EXPECT_EQ(std::string(question.data(), question.size()), "revert changes? ");
 
   std::ofstream(answers) << "yes\n";
-  std::array<char, 16> rest;
+  std::array<char, 16> rest{};
   const std::size_t size = std::fread(rest.data(), 1, rest.size(), output.get());
   EXPECT_EQ(std::string(rest.data(), size), "yes\r\n");
 }

@@ -8,7 +8,7 @@ using testing::IsEmpty;
 using testing::SizeIs;
 using testing::StartsWith;
 
-constexpr int refused = -2147467259;
+constexpr int kRefused = -2147467259;
 
 // The commands of zrkhost that change a working copy.
 class CVSEdit : public CVSWorkingCopies {
@@ -66,7 +66,7 @@ TEST_P(CVSEdit, IsRefusedWithAWarningWhileThereIsANewerRevision) {
   CheckOutForBen();
   repository_.Commit(bensCopy_, kWheel, "newer\n");
   const Json report = Anna({"edit " + kWheelProduct}, 1);
-  EXPECT_EQ(CommandOf(report).at("result"), refused);
+  EXPECT_EQ(CommandOf(report).at("result"), kRefused);
   EXPECT_EQ(CommandOf(report).at("output"), "do update first\n");
   EXPECT_THAT(Dialog(report).at("message"),
               HasSubstr("newer version of " + std::string(kModule) + "/" + kWheel));
@@ -113,7 +113,7 @@ TEST_P(CVSEdit, OfAFileThatIsNotTakenIsNotGivenBack) {
   CheckOutForBen();
   BenEdits(kWheel);
   const Json report = Anna({"unedit " + kWheelProduct}, 1);
-  EXPECT_EQ(CommandOf(report).at("result"), refused);
+  EXPECT_EQ(CommandOf(report).at("result"), kRefused);
   EXPECT_THAT(repository_.Editors(bensCopy_, kWheel), StartsWith(kWheel + "\t" + NameOf(ben_) + "\t"));
 }
 
@@ -157,7 +157,7 @@ TEST_P(CVSEdit, FindsNothingInARefreshWhereThereIsNoClient) {
 TEST_P(CVSEdit, TellsThatThereIsNoClientForTheHost) {
   const Json report =
       anna_.Host({"--folder", annasCopy_.string(), "--clients", "none", "-c", "edit " + kWheelProduct}, 1);
-  EXPECT_EQ(CommandOf(report).at("result"), refused);
+  EXPECT_EQ(CommandOf(report).at("result"), kRefused);
   EXPECT_THAT(EventsOf(CommandOf(report), "launch"), IsEmpty());
   EXPECT_THAT(EventsOf(CommandOf(report), "dialog"), SizeIs(1));
 }

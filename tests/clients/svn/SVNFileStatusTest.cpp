@@ -31,7 +31,7 @@ protected:
     const Json record = RecordOf(file);
     Json written = Json::object();
     for (const auto& [field, value] : record.items()) {
-      if (value != "" && value != 0) written[field] = value;
+      if (value != Json("") && value != 0) written[field] = value;
     }
     return written;
   }

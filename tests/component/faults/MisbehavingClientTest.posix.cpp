@@ -2,7 +2,7 @@
 // anybody wants to read.
 
 #include <gtest/gtest.h>
-#include <signal.h>
+#include <csignal>
 
 #include <filesystem>
 #include <fstream>

@@ -77,7 +77,7 @@ TEST_F(TheTables, HoldAllThatOneCommandLineReportsBehindTheQuestionOfAnother) {
   Products.Add({.Name = "two", .Document = Folder.Host("proj") + "\\" + second});
   Products.Place("car", "1", "one").Place("car", "2", "two");
   const std::string block = StatusBlock("proj/two", "1.2");
-  const std::string filler(3 * 4096, 'x');
+  const std::string filler(std::size_t{3} * 4096, 'x');
   Client.When("status -v proj\\b").Out(filler + kSeparatorLine + block);
   Client.When("status -v").Out("a has been modified; revert changes? ");
   Client.When("-n edit proj\\b").Out(filler + "\r\nproj/two\tbert\r\n");

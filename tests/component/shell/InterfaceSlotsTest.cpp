@@ -15,7 +15,7 @@ namespace {
 
 template <class Operation>
 std::ptrdiff_t Slot(Operation operation) {
-  std::array<std::ptrdiff_t, 2> parts;
+  std::array<std::ptrdiff_t, 2> parts{};
   static_assert(sizeof(parts) == sizeof(operation));
   std::memcpy(parts.data(), &operation, sizeof(operation));
   return (parts[0] - 1) / static_cast<std::ptrdiff_t>(sizeof(void*));

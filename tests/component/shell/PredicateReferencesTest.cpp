@@ -24,7 +24,7 @@ protected:
          {"car", "axle", "empty", "plain", "car/axle.1", "car/lost.1", "car/empty.1", "car/plain.1"}) {
       objects_.push_back(assembly_.At(product));
     }
-    objects_.push_back(CATILinkableObject_var(assembly_.At("axle"))->GetDocument());
+    objects_.emplace_back(CATILinkableObject_var(assembly_.At("axle"))->GetDocument());
   }
 
   static unsigned long ReferencesOf(const CATBaseUnknown_var& object) {

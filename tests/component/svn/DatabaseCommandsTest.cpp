@@ -44,24 +44,24 @@ protected:
 TEST_F(DatabaseCommands, OfARefreshNameNoPath) {
   Manager()->RefreshStatus(Products.At("car"));
   EXPECT_EQ(LinesIn("wc/front axle"), (WideLines{L" status -v -u --xml --non-interactive --ignore-externals",
-                                             L" status -v --xml --non-interactive --ignore-externals"}));
+                                                 L" status -v --xml --non-interactive --ignore-externals"}));
 }
 
 TEST_F(DatabaseCommands, OfALock) {
   Report({});
   Manager()->Edit();
-  EXPECT_EQ(
-      LinesIn("wc/front axle"),
-      (WideLines{L" update --non-interactive \"" + Path() + L"\"", L" lock --non-interactive \"" + Path() + L"\"",
-             L" status -v -u --xml --non-interactive --ignore-externals \"" + Path() + L"\""}));
+  EXPECT_EQ(LinesIn("wc/front axle"),
+            (WideLines{L" update --non-interactive \"" + Path() + L"\"",
+                       L" lock --non-interactive \"" + Path() + L"\"",
+                       L" status -v -u --xml --non-interactive --ignore-externals \"" + Path() + L"\""}));
 }
 
 TEST_F(DatabaseCommands, OfAnUnlock) {
   Manager()->Unedit();
   EXPECT_EQ(LinesIn("wc/front axle"),
             (WideLines{L" unlock --non-interactive \"" + Path() + L"\"",
-                   L" status -v -u --xml --non-interactive --ignore-externals \"" + Path() + L"\"",
-                   L" status -v --xml --non-interactive --ignore-externals \"" + Path() + L"\""}));
+                       L" status -v -u --xml --non-interactive --ignore-externals \"" + Path() + L"\"",
+                       L" status -v --xml --non-interactive --ignore-externals \"" + Path() + L"\""}));
 }
 
 TEST_F(DatabaseCommands, OfADeletionRunInTheFilesOwnFolder) {

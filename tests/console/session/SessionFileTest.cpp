@@ -3,6 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+
 #include "base/CallError.h"
 #include "console/SessionSchema.h"
 #include "support/Files.h"
@@ -26,11 +29,11 @@ zrkhost::SessionDescription Parse(const std::string& text) {
 
 // Whether a complaint is about what a schema can say: types, keys, and names that must be there.
 bool IsAboutForm(const std::string& complaint) {
-  for (const char* words : {"must be ", "must not be empty", "is missing", "is not a key known here",
-                            "a product needs a name", "a second time"}) {
-    if (complaint.find(words) != std::string::npos) return true;
-  }
-  return false;
+  constexpr std::array kWords = {
+      "must be ",     "must not be empty", "is missing", "is not a key known here", "a product needs a name",
+      "a second time"};
+  return std::ranges::any_of(kWords,
+                             [&](const char* words) { return complaint.find(words) != std::string::npos; });
 }
 
 // What is said about a session that is wrong.

@@ -23,7 +23,7 @@ private:
 };
 
 TEST(CATBaseUnknown, StartsWithOneReference) {
-  Plain* const object = new Plain;
+  auto* const object = new Plain;
   EXPECT_EQ(object->AddRef(), 2u);
   EXPECT_EQ(object->Release(), 1u);
   EXPECT_EQ(object->Release(), 0u);
@@ -31,7 +31,7 @@ TEST(CATBaseUnknown, StartsWithOneReference) {
 
 TEST(CATBaseUnknown, EndsWithItsLastReference) {
   const long before = standin::LiveObjectCount();
-  Plain* const object = new Plain;
+  auto* const object = new Plain;
   EXPECT_EQ(standin::LiveObjectCount(), before + 1);
   object->AddRef();
   object->Release();
@@ -71,7 +71,7 @@ TEST(CATBaseUnknown, AllocatesAgainWhenTheFailureIsCalledOff) {
 }
 
 TEST(CATHandle, HoldsOneReferenceOfItsOwn) {
-  Plain* const object = new Plain;
+  auto* const object = new Plain;
   {
     const CATBaseUnknown_var handle(object);
     EXPECT_EQ(object->AddRef(), 3u);

@@ -2,24 +2,24 @@
 
 CATImplementInterface(ITestFirst,
                       {0x7d1f3001, 0x2a6b, 0x4c1e, {0x80, 0x3d, 0x11, 0x52, 0x9e, 0xaf, 0x60, 0x01}})
-    CATImplementInterface(ITestSecond,
-                          {0x7d1f3002, 0x2a6b, 0x4c1e, {0x80, 0x3d, 0x11, 0x52, 0x9e, 0xaf, 0x60, 0x01}})
-        CATImplementInterface(ITestOwn,
-                              {0x7d1f3003, 0x2a6b, 0x4c1e, {0x80, 0x3d, 0x11, 0x52, 0x9e, 0xaf, 0x60, 0x01}})
+CATImplementInterface(ITestSecond,
+                      {0x7d1f3002, 0x2a6b, 0x4c1e, {0x80, 0x3d, 0x11, 0x52, 0x9e, 0xaf, 0x60, 0x01}})
+CATImplementInterface(ITestOwn,
+                      {0x7d1f3003, 0x2a6b, 0x4c1e, {0x80, 0x3d, 0x11, 0x52, 0x9e, 0xaf, 0x60, 0x01}})
 
-            namespace {
-  template <class Interface>
-  class TestTie final : public CATTie<Interface> {
-  public:
-    explicit TestTie(CATBaseUnknown* extension) : CATTie<Interface>(extension, nullptr) {}
-    int Number() override { return static_cast<TestExtension*>(this->TieContext())->Number(); }
-  };
+namespace {
+template <class Interface>
+class TestTie final : public CATTie<Interface> {
+public:
+  explicit TestTie(CATBaseUnknown* extension) : CATTie<Interface>(extension, nullptr) {}
+  int Number() override { return static_cast<TestExtension*>(this->TieContext())->Number(); }
+};
 
-  bool TakeOne(int& left) {
-    if (left == 0) return false;
-    --left;
-    return true;
-  }
+bool TakeOne(int& left) {
+  if (left == 0) return false;
+  --left;
+  return true;
+}
 
 }  // namespace
 

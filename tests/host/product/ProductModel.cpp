@@ -337,7 +337,7 @@ TEST(ProductModel, HoldsADeepTree) {
   CATBaseUnknown_var product = model.Reference(name(0));
   for (int level = 0; level + 1 < kDepth; ++level) product = Children(product)[0];
   EXPECT_EQ(standin::ReferenceName(product), name(kDepth - 1));
-  EXPECT_EQ(ProductPath(product).size(), name(0).size() + 2 * (kDepth - 1));
+  EXPECT_EQ(ProductPath(product).size(), name(0).size() + std::size_t{2} * (kDepth - 1));
   model = ProductModel();
   EXPECT_EQ(standin::ReferenceName(product), name(kDepth - 1));
 }

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 #include <pthread.h>
-#include <signal.h>
 #include <unistd.h>
 #include <windows.h>
+#include <csignal>
 
 #include <atomic>
 #include <iterator>
@@ -88,7 +88,7 @@ TEST(Pipes, ReadGoesOnAfterASignal) {
   signals = 0;
   struct sigaction interrupting {};
   interrupting.sa_handler = [](int) { ++signals; };
-  struct sigaction before;
+  struct sigaction before = {};
   sigaction(SIGUSR1, &interrupting, &before);
 
   TestPipe pipe;

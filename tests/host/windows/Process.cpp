@@ -1,11 +1,11 @@
 #include <gmock/gmock.h>
-#include <signal.h>
-#include <stdlib.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <windows.h>
+#include <csignal>
+#include <cstdlib>
 
 #include <filesystem>
 #include <fstream>
@@ -281,7 +281,7 @@ TEST(Children, LeaveNoZombieWhenNoDescriptorIsLeft) {
   TestPipe input(true);
   const TestPipe output(true);
   const int last = open("/dev/null", O_RDONLY | O_CLOEXEC);
-  rlimit before;
+  rlimit before{};
   ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &before), 0);
   rlimit none = before;
   none.rlim_cur = static_cast<rlim_t>(last) + 1;
@@ -316,7 +316,7 @@ TEST(Children, OfTheHostItselfAreLeftToIt) {
 
 TEST(Children, ThatTheHostCollectedAreNoLongerCounted) {
   struct sigaction ignored {};
-  struct sigaction before;
+  struct sigaction before = {};
   ignored.sa_handler = SIG_IGN;  // the system collects them itself
   sigaction(SIGCHLD, &ignored, &before);
   TestChild child(L"\\bin\\true", L"true");
@@ -328,8 +328,8 @@ TEST(Children, DoNotChangeWhatTheHostDoesOnTheirEnd) {
   static volatile sig_atomic_t ends;
   ends = 0;
   struct sigaction counting {};
-  struct sigaction before;
-  struct sigaction after;
+  struct sigaction before = {};
+  struct sigaction after = {};
   counting.sa_handler = [](int) { ends = ends + 1; };
   counting.sa_flags = SA_RESTART;
   sigaction(SIGCHLD, &counting, &before);

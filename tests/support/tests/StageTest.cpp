@@ -93,8 +93,8 @@ TEST(DialogRecorder, AnswersInOrderAndThenNo) {
 
 TEST(OpenHandles, GrowWithAPipeAndShrinkWhenItIsClosed) {
   const int before = CountOpenHandles();
-  HANDLE readEnd;
-  HANDLE writeEnd;
+  HANDLE readEnd = nullptr;
+  HANDLE writeEnd = nullptr;
   ASSERT_TRUE(CreatePipe(&readEnd, &writeEnd, nullptr, 0));
   EXPECT_GT(CountOpenHandles(), before);
   CloseHandle(readEnd);
