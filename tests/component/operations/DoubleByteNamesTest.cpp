@@ -112,6 +112,16 @@ using Texts = std::vector<std::string>;
 
 }  // namespace
 
+// The second byte of U+30D1 is that of "p".
+TEST_F(DoubleByteNames, HoldTheRepositorysPathAsLettersOnly) {
+  const std::string folder = "w\\\x83proj\\proj";
+  WriteCVSFolder(Folder / standin::FilePath(folder), "/cvs/root", "proj");
+  Products.Add("other", standin::FilePath(folder + "\\other"));
+  runFolder_ = Folder.Host("w") + "\\\x83proj";
+  ZRKICVSManager_var(Products.At("other"))->RefreshStatus(Products.At("other"));
+  EXPECT_EQ(Runs(), (Texts{"-d /cvs/root status -v proj\\other", "-d /cvs/root -n edit proj\\other"}));
+}
+
 TEST_F(DoubleByteNamesInCVS, AreRefreshed) {
   Manager()->RefreshStatus(Products.At("part"));
   EXPECT_EQ(Runs(), (Texts{Command("status -v"), Command("-n edit")}));
