@@ -14,3 +14,9 @@ TEST_F(SVNProductStatus, AnEntryOfNoVersionIsUnversionedAlsoWhenItIsLocked) {
   zrk::svn::ShowOnProduct(Context(), Products.At("car"), record, "comment");
   EXPECT_EQ(ReadStatusAttributes(Products.At("car")), (StatusAttributes{"", "Unversioned", "", "comment"}));
 }
+
+TEST_F(SVNProductStatus, TheCommentOfALockWithoutAnOwnerStandsAlone) {
+  ZRKCVSStatus record;
+  record.AuxText = "new tread";
+  EXPECT_EQ(zrk::svn::TreeComment(record), "new tread");
+}
