@@ -113,6 +113,7 @@ class Copy:
         self.build = self.folder / "build"
         self.temporary = self.folder / "tmp"
         self.log = self.folder / "log"
+        self.filters = {"*": "*"}
         self.baselines = {}
         self.process = None
         self.stopped = False
@@ -158,10 +159,10 @@ class Copy:
     def make(self, jobs=1):
         return self.run(["cmake", "--build", self.build, "--target", "component_tests", "-j", str(jobs)]) == 0
 
-    def test(self, names, time_limit=None):
-        """What failed; None when the tests pass."""
+    def test(self, room, time_limit=None):
+        """What failed of the room's tests, or with "*" of all; None when they pass."""
         code = self.run([self.build / "bin" / "component_tests", "--gtest_brief=1", "--gtest_fail_fast",
-                         f"--gtest_filter={names}"], time_limit)
+                         f"--gtest_filter={self.filters[room]}"], time_limit)
         if code == 0:
             return None
         failed = re.search(r"\[  FAILED  \] (\S+?),? ", self.log.read_text(errors="replace"))
@@ -169,16 +170,18 @@ class Copy:
             return failed[1]
         return "a run without end" if code is None else f"the end of the program ({code})"
 
-    def tests_within_time(self, names):
+    def test_within_time(self, room):
         """As test(), in a time that goes by what these tests take without a mutation."""
-        return self.test(names, self.baselines[names] * TIME_FACTOR + TIME_ALLOWANCE)
+        return self.test(room, self.baselines[room] * TIME_FACTOR + TIME_ALLOWANCE)
 
-    def measure(self, names):
+    def measure(self, room):
+        if room != "*":
+            self.filters[room] = filter_of(self.source / "tests" / "component" / room)
         start = time.monotonic()
-        failed = self.test(names)
+        failed = self.test(room)
         if failed:
             sys.exit(f"mutate: the tests fail without any mutation: {failed}")
-        self.baselines[names] = time.monotonic() - start
+        self.baselines[room] = time.monotonic() - start
 
     def try_out(self, mutation):
         """(verdict, what noticed it)"""
@@ -191,19 +194,18 @@ class Copy:
         try:
             if not self.make():
                 return "not built", None
-            failed = self.tests_within_time(tests_of_room(mutation.room)) or self.tests_within_time("*")
+            failed = self.test_within_time(mutation.room) or self.test_within_time("*")
             return ("noticed" if failed else "unnoticed"), failed
         finally:
             path.write_text(original)
 
 
-def tests_of_room(room):
-    """The filter of the suites that stand in the room's folder of the tests."""
+def filter_of(folder):
+    """The filter of the suites that stand in a folder of the tests."""
     suites = set()
-    for path in (HOUSE / "tests" / "component" / room).glob("*.cpp"):
+    for path in folder.glob("*.cpp"):
         suites.update(re.findall(r"^(?:TYPED_)?TEST(?:_[FP])?\((\w+),", path.read_text(), re.MULTILINE))
-    names = [pattern for suite in sorted(suites) for pattern in (f"{suite}.*", f"*/{suite}.*", f"{suite}/*")]
-    return ":".join(names) or "*"
+    return ":".join(f"{suite}.*:*/{suite}.*:{suite}/*" for suite in sorted(suites))
 
 
 def judge(mutation, verdict):
@@ -234,11 +236,11 @@ def main():
         by_file.setdefault(mutation.file, []).append(mutation)
 
     copies = [Copy(number) for number in range(1, min(os.cpu_count(), len(by_file)) + 1)]
-    rooms = {tests_of_room(mutation.room) for mutation in mutations}
+    rooms = {mutation.room for mutation in mutations}
     for copy in copies:
         copy.prepare()
-        for names in {*rooms, "*"}:
-            copy.measure(names)
+        for room in {*rooms, "*"}:
+            copy.measure(room)
 
     # The largest first, so that all processors end at about the same time.
     tasks = queue.Queue()
