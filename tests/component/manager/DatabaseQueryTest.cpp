@@ -84,6 +84,16 @@ TEST_F(DatabaseQuery, OfADocumentInNoWorkingCopyStartsNothing) {
   EXPECT_TRUE(messages.All().empty());
 }
 
+TEST_F(DatabaseQuery, OfADocumentInACVSFolderStartsNothingEither) {
+  WriteCVS("cvs");
+  WriteCVS("wc/cvs");
+  Products.Add("beside", "cvs/part").Add("within", "wc/cvs/part");
+  for (const char* product : {"beside", "within"}) {
+    EXPECT_EQ(Text(Asked(Manager(), product).Status), "as it was") << product;
+  }
+  EXPECT_TRUE(Client.Runs().empty());
+}
+
 TEST_F(DatabaseQuery, OfADocumentWithTextEntriesRunsInTheFolderOfCVSAsEver) {
   WriteEntries("old", entries::Folder("12"));
   Products.Add("part", "old/part");
