@@ -120,6 +120,12 @@ TEST(MalformedWorkingCopyReport, OfAnotherKindHoldsNothing) {
   EXPECT_FALSE(files);
 }
 
+// Well-formed as they are, but nothing that the client ends a report with.
+TEST(MalformedWorkingCopyReport, IsRefusedWithoutItsEnd) {
+  EXPECT_FALSE(ReadWhole(kWarning + "<?xml version=\"1.0\"?><status/>"));
+  EXPECT_FALSE(ReadWhole("</status>" + kWarning + "<?xml version=\"1.0\"?><status/>"));
+}
+
 TEST(MalformedWorkingCopyReport, OfNoEntriesIsOneAllTheSame) {
   const auto files = ReadWhole(Report({}));
   ASSERT_TRUE(files);
