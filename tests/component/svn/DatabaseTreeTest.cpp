@@ -4,9 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 
 #include "DatabaseStage.h"
 #include "svn/DatabaseStatus.h"
+#include "windows/LaunchLog.h"
 
 namespace {
 
@@ -27,6 +29,13 @@ protected:
 
   std::int32_t Refresh(const std::string& path = "car") {
     return zrk::svn::RefreshDatabaseTree(Context(), Products.At(path), Times);
+  }
+
+  // Something that happens while the client runs.
+  void RefreshWhile(const std::function<void()>& event) {
+    standin::SetLaunchListener([&](const standin::Launch&) { event(); });
+    Refresh();
+    standin::SetLaunchListener({});
   }
 
   zrk::svn::SVNTimes Times;
@@ -126,6 +135,16 @@ TEST_F(DatabaseTree, RunsAtTheTopWhenAllBelowIsGone) {
   EXPECT_EQ(RunFolders(), Texts{Folder.Host("wc")});
 }
 
+TEST_F(DatabaseTree, DoesNotGoAboveAWorkingCopyThatIsGoneMeanwhile) {
+  WriteDatabase("xc");
+  Products.Add("car", "wc/car").Add("axle", "xc/sub/axle").Place("car", "axle.1", "axle");
+  WriteStatusAttributes(Products.At("car/axle.1"), kOld);
+  Report({{.Path = "car"}});
+  RefreshWhile([&] { std::filesystem::remove_all(Folder / "xc"); });
+  EXPECT_EQ(RunFolders(), Texts{Folder.Host("wc")});
+  EXPECT_EQ(Shown("car/axle.1"), std::nullopt);
+}
+
 TEST_F(DatabaseTree, RunsOnceForEachWorkingCopy) {
   WriteDatabase("other");
   Products.Add("car", "wc/car").Add("axle", "other/sub/axle").Add("wheel", "wc/sub/wheel");
@@ -217,6 +236,20 @@ TEST_F(DatabaseTree, ADocumentOfCVSIsInNoneOfTheWorkingCopiesAlsoWhenAReportName
   EXPECT_EQ(Client.Runs().size(), 1U);
   EXPECT_EQ(Shown("car/part.1"), std::nullopt);
   EXPECT_EQ(Redrawn.Paths(), (Paths{"car", "car/part.1"}));
+}
+
+TEST_F(DatabaseTree, ADocumentOfAWorkingCopyThatNobodyAskedAboutLosesItsAttributesAndIsRedrawn) {
+  WriteDatabase("other");
+  Products.Add("car", "wc/car").Add("axle", "other/axle");
+  Report({{.Path = "car"}});
+  RefreshWhile([&] {
+    Products.Place("car", "axle.1", "axle");
+    WriteStatusAttributes(Products.At("car/axle.1"), kOld);
+  });
+  EXPECT_EQ(RunFolders(), Texts{Folder.Host("wc")});
+  EXPECT_TRUE(Shown("car"));
+  EXPECT_EQ(Shown("car/axle.1"), std::nullopt);
+  EXPECT_EQ(Redrawn.Paths(), (Paths{"car", "car/axle.1"}));
 }
 
 TEST_F(DatabaseTree, ADocumentThatWasNeverStoredLosesItsAttributesIsRedrawnAndItsChildrenAreVisited) {
