@@ -143,6 +143,7 @@ TEST(DatabaseCommand, ClosesAPathWithAnAtWithinTheQuotes) {
   EXPECT_EQ(Command("lock", "C:\\a@2"), " lock --non-interactive \"C:\\a@2@\"");
   EXPECT_EQ(Command("lock", "C:\\a@"), " lock --non-interactive \"C:\\a@@\"");
   EXPECT_EQ(Command("lock", "C:\\@x\\a"), " lock --non-interactive \"C:\\@x\\a@\"");
+  EXPECT_EQ(Command("lock", "@a"), " lock --non-interactive \"@a@\"");
 }
 
 TEST(DatabaseCommand, EscapesQuotationMarksAndWhatStandsBeforeThem) {
