@@ -1,5 +1,6 @@
 """The work of scripts/mutate."""
 
+import json
 import os
 import queue
 import re
@@ -18,9 +19,13 @@ HOUSE = Path(__file__).resolve().parent.parent
 COMPONENT = "ZRKCVSManager"
 LISTS = HOUSE / "tests" / "mutations"
 COPIES = HOUSE / "build" / "mutate"
+# By mutation, the test that noticed it last.
+NOTICED = COPIES / "noticed.json"
 # A run may take this many times as long as without a mutation, and this many seconds more.
 TIME_FACTOR = 3
 TIME_ALLOWANCE = 20
+# A test of a room that takes longer, in seconds, waits for the run of all: it would hold up every mutation.
+SLOW_TEST = 1
 # What a program that never stops writing may take of the disk.
 FILE_LIMIT = 256 << 20
 
@@ -36,6 +41,10 @@ class Mutation:
     @property
     def path(self):
         return f"{COMPONENT}/{self.file}"
+
+    @property
+    def name(self):
+        return f"{self.file}: {self.title}"
 
     @property
     def room(self):
@@ -113,6 +122,7 @@ class Copy:
         self.build = self.folder / "build"
         self.temporary = self.folder / "tmp"
         self.log = self.folder / "log"
+        self.times = self.folder / "times.json"
         self.filters = {"*": "*"}
         self.baselines = {}
         self.process = None
@@ -161,10 +171,10 @@ class Copy:
     def make(self, jobs=1):
         return self.run(["cmake", "--build", self.build, "--target", "component_tests", "-j", str(jobs)]) == 0
 
-    def test(self, room, time_limit=None):
-        """What failed of the room's tests, or with "*" of all; None when they pass."""
+    def test(self, names, time_limit=None):
+        """What failed of the tests of these names; None when they pass."""
         code = self.run([self.build / "bin" / "component_tests", "--gtest_brief=1", "--gtest_fail_fast",
-                         f"--gtest_filter={self.filters[room]}"], time_limit)
+                         f"--gtest_output=json:{self.times}", f"--gtest_filter={names}"], time_limit)
         if code == 0:
             return None
         failed = re.search(r"\[  FAILED  \] (\S+?),? ", self.log.read_text(errors="replace"))
@@ -172,21 +182,29 @@ class Copy:
             return failed[1]
         return "a run without end" if code is None else f"the end of the program ({code})"
 
-    def test_within_time(self, room):
-        """As test(), in a time that goes by what these tests take without a mutation."""
-        return self.test(room, self.baselines[room] * TIME_FACTOR + TIME_ALLOWANCE)
+    def test_within_time(self, room, names=None):
+        """What failed of the room's quick tests, with "*" of all, or of these; in a time that goes by what the
+        room's take without a mutation."""
+        return self.test(names or self.filters[room], self.baselines[room] * TIME_FACTOR + TIME_ALLOWANCE)
 
     def measure(self, room):
-        if room != "*":
-            self.filters[room] = filter_of(self.source / "tests" / "component" / room)
         start = time.monotonic()
-        failed = self.test(room)
+        failed = self.test(self.filters[room])
         if failed:
             sys.exit(f"mutate: the tests fail without any mutation: {failed}")
         self.baselines[room] = time.monotonic() - start
 
-    def try_out(self, mutation):
-        """(verdict, what noticed it)"""
+    def measure_all(self, rooms):
+        """Finds which tests are quick, and how long they take; good for all copies."""
+        self.measure("*")
+        slow = ":".join(slow_tests(self.times))
+        for room in rooms:
+            quick = filter_of(self.source / "tests" / "component" / room)
+            self.filters[room] = f"{quick}-{slow}"
+            self.measure(room)
+
+    def try_out(self, mutation, likely):
+        """(verdict, what noticed it); the tests of the names `likely` run first."""
         path = self.source / mutation.path
         original = path.read_text() if path.exists() else ""
         mutated = mutation.apply(original)
@@ -196,7 +214,8 @@ class Copy:
         try:
             if not self.make():
                 return "not built", None
-            failed = self.test_within_time(mutation.room) or self.test_within_time("*")
+            failed = likely and self.test_within_time(mutation.room, ":".join(sorted(likely)))
+            failed = failed or self.test_within_time(mutation.room) or self.test_within_time("*")
             return ("noticed" if failed else "unnoticed"), failed
         finally:
             path.write_text(original)
@@ -210,6 +229,12 @@ def filter_of(folder):
     return ":".join(f"{suite}.*:*/{suite}.*:{suite}/*" for suite in sorted(suites))
 
 
+def slow_tests(times):
+    """What took long in the run of which these are the times."""
+    return [f"{suite['name']}.{test['name']}" for suite in json.loads(times.read_text())["testsuites"]
+            for test in suite["testsuite"] if float(test["time"].rstrip("s")) > SLOW_TEST]
+
+
 def judge(mutation, verdict):
     """(what is printed of the mutation, whether it is as it should be)"""
     if mutation.reason and verdict == "unnoticed":
@@ -219,7 +244,14 @@ def judge(mutation, verdict):
     return verdict, verdict == "noticed"
 
 
-def work(copy, tasks, report):
+def likely_tests(mutation, noticed):
+    """What noticed it last time; without one, what noticed others of the same file."""
+    if mutation.name in noticed:
+        return {noticed[mutation.name]}
+    return {test for name, test in noticed.items() if name.startswith(mutation.file + ": ")}
+
+
+def work(copy, tasks, noticed, report):
     while not copy.stopped:
         try:
             mutations = tasks.get_nowait()
@@ -228,7 +260,7 @@ def work(copy, tasks, report):
         for mutation in mutations:
             if copy.stopped:
                 return
-            report(mutation, *copy.try_out(mutation))
+            report(mutation, *copy.try_out(mutation, likely_tests(mutation, dict(noticed))))
 
 
 def main():
@@ -241,8 +273,9 @@ def main():
     rooms = {mutation.room for mutation in mutations}
     for copy in copies:
         copy.prepare()
-        for room in {*rooms, "*"}:
-            copy.measure(room)
+    copies[0].measure_all(rooms)
+    for copy in copies[1:]:
+        copy.filters, copy.baselines = copies[0].filters, copies[0].baselines
 
     # The largest first, so that all processors end at about the same time.
     tasks = queue.Queue()
@@ -250,21 +283,25 @@ def main():
         tasks.put(group)
     counts = {}
     wrong = []
+    noticed = json.loads(NOTICED.read_text()) if NOTICED.exists() else {}
     lock = threading.Lock()
 
     def report(mutation, verdict, failed):
         word, is_right = judge(mutation, verdict)
         remark = failed or " ".join(mutation.reason)
-        line = f"{word:<10} {mutation.file}: {mutation.title}" + (f"  [{remark}]" if remark else "")
+        line = f"{word:<10} {mutation.name}" + (f"  [{remark}]" if remark else "")
         with lock:
             counts[word] = counts.get(word, 0) + 1
+            if failed and " " not in failed:
+                noticed[mutation.name] = failed
+                NOTICED.write_text(json.dumps(noticed, indent=1))
             if not is_right:
                 wrong.append(line)
             print(line, flush=True)
 
     with ThreadPoolExecutor(len(copies)) as pool:
         try:
-            for worker in [pool.submit(work, copy, tasks, report) for copy in copies]:
+            for worker in [pool.submit(work, copy, tasks, noticed, report) for copy in copies]:
                 worker.result()
         except BaseException:
             for copy in copies:
