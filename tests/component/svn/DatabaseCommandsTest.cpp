@@ -167,6 +167,13 @@ TEST(DatabaseCommand, TakesNoPartOfALetterForABackslashOrAnAt) {
   EXPECT_EQ(Command("lock", "C:\\\x83@"), " lock --non-interactive \"C:\\\x83@\"");
 }
 
+TEST_F(DatabaseCommands, ForAFileAtTheRootRunThere) {
+  zrk::svn::ReadStatusOfFile(Context(), "\\car");
+  zrk::svn::RunDatabaseCommand(Context(), "lock", "\\car");
+  ASSERT_EQ(Launched.All().size(), 3U);
+  for (const standin::Launch& launch : Launched.All()) EXPECT_EQ(launch.Folder, L"\\");
+}
+
 TEST(LaunchFolder, OfADriveOrTheRootHasAClosingBackslashAndNoOther) {
   EXPECT_EQ(LaunchFolder("C:"), "C:\\");
   EXPECT_EQ(LaunchFolder(""), "\\");
