@@ -150,6 +150,7 @@ TEST(DatabaseCommand, EscapesQuotationMarksAndWhatStandsBeforeThem) {
   EXPECT_EQ(Command("lock", "a\"b"), " lock --non-interactive \"a\\\"b\"");
   EXPECT_EQ(Command("lock", "a\\\"b"), " lock --non-interactive \"a\\\\\\\"b\"");
   EXPECT_EQ(Command("lock", "a\\b"), " lock --non-interactive \"a\\b\"");
+  EXPECT_EQ(Command("lock", "C:\\a\"b"), " lock --non-interactive \"C:\\a\\\"b\"");
 }
 
 TEST(DatabaseCommand, DoublesBackslashesAtTheEnd) {
