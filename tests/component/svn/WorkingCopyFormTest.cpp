@@ -80,6 +80,12 @@ TEST_F(FormOfAFolder, IsTextAlsoWithADatabaseBesideTheEntries) {
   EXPECT_EQ(Root("wc"), "none");
 }
 
+TEST_F(FormOfAFolder, IsTextAlsoWithCVSBesideTheEntries) {
+  WriteEntries("wc", "10\n\ndir\n");
+  WriteCVS("wc");
+  EXPECT_EQ(Kind("wc"), Form::Text);
+}
+
 TEST_F(FormOfAFolder, OneLineOfEntriesSaysNothing) {
   WriteDatabase("wc");
   for (const char* line : {"", "12", "12\n", "12\r\n", "12\n\x1a\n"}) {
