@@ -5,7 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <optional>
 
+#include "framework/FrameworkControl.h"
 #include "support/ClientReports.h"
 #include "support/HostText.h"
 
@@ -187,6 +189,33 @@ TEST(WorkingCopyReport, FillsARecordAsTheTextFormDoes) {
   EXPECT_TRUE(record.IsLockedByOther);
 }
 
+// When the host cannot make one of its objects. It makes them in this order.
+enum class ReportObject { Document, Root, ListOfEntries, FirstEntry };
+
+// Nothing when the report of "a" and "b" is refused.
+std::optional<Names> PathsWithout(ReportObject object) {
+  const std::string report = Report({{.Path = "a"}, {.Path = "b"}});
+  ReportedFiles files;
+  standin::FailObjectAllocation(static_cast<int>(object));
+  const bool complete = ReadWorkingCopyReport(report.c_str(), Repository::Asked, "", files);
+  standin::FailObjectAllocation(-1);
+  EXPECT_TRUE(complete || files.empty());
+  return complete ? std::optional(PathsOf(files)) : std::nullopt;
+}
+
+TEST(WorkingCopyReport, WithoutItsDocumentOrRootIsRefused) {
+  EXPECT_EQ(PathsWithout(ReportObject::Document), std::nullopt);
+  EXPECT_EQ(PathsWithout(ReportObject::Root), std::nullopt);
+}
+
+TEST(WorkingCopyReport, WithoutTheListOfItsEntriesHoldsNone) {
+  EXPECT_EQ(PathsWithout(ReportObject::ListOfEntries), Names{});
+}
+
+TEST(WorkingCopyReport, WithoutOneEntryHoldsTheOthers) {
+  EXPECT_EQ(PathsWithout(ReportObject::FirstEntry), Names{"b"});
+}
+
 // Which lock counts.
 const Lock kOwn{"opaquelocktoken:1", "anna", "own"};
 const Lock kOthers{"opaquelocktoken:2", "ben", "other's"};
@@ -234,6 +263,8 @@ INSTANTIATE_TEST_SUITE_P(
         LockCase{"Stolen", kOwn, kOthers, Repository::Asked, false, true, "ben", "other's"},
         LockCase{"StolenByTheSameUser", kOwn, Lock{kOthers.Token, "anna", "again"}, Repository::Asked, false,
                  true, "anna", "again"},
+        LockCase{"NeitherHasAToken", Lock{"", "anna", "own"}, Lock{"", "ben", "other's"}, Repository::Asked,
+                 false, true, "ben", "other's"},
         LockCase{"Broken", kOwn, {}, Repository::Asked, false, false, "", ""},
         LockCase{"RepositoryNotAsked", kOwn, {}, Repository::NotAsked, true, false, "anna", "own"},
         LockCase{"NoneAndRepositoryNotAsked", {}, {}, Repository::NotAsked, false, false, "", ""}),
