@@ -27,6 +27,8 @@ TEST(RepositoryPath, IsEmptyWhenTheRootHasNoFolder) {
 
 TEST(RepositoryPath, IsEmptyWithoutARepositoryRevision) {
   EXPECT_EQ(GetRepositoryPath("File: a\tStatus: b\r\n/cvs/root/a,v\r\n", "/cvs/root"), "");
+  EXPECT_EQ(GetRepositoryPath("File: wheel left.CATPart\tStatus: Unknown\r\n/cvs/root/a,v\r\n", "/cvs/root"),
+            "");
   EXPECT_EQ(GetRepositoryPath("", "/cvs/root"), "");
 }
 
