@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <string>
 #include <thread>
 
@@ -21,11 +22,23 @@ namespace {
 constexpr std::int64_t kHour = 3'600'000;
 bool hourPassed = false;
 
-// An hour passes while the block, whose length no other text has, gets its place in a table.
 void LetAnHourPass() {
   hourPassed = true;
   standin::MoveClock(kHour);
 }
+
+// An hour passes during the call while a text whose length no other has is copied: a block or a line gets its
+// place in a table, or a value is taken out of a report.
+void CallWithAnHourAtTheCopyOf(const std::string& text, const std::function<void()>& call) {
+  hourPassed = false;
+  faults::OnAllocation(text.size() + 1, LetAnHourPass);
+  call();
+  faults::OnAllocation(0, nullptr);
+  ASSERT_TRUE(hourPassed);
+  standin::MoveClock(-kHour);
+}
+
+const std::string kLong(77'777, 'x');
 
 double Seconds(const std::wstring& message) {
   return std::stod(message.substr(message.find(L": ") + 2));
@@ -36,21 +49,34 @@ class RefreshTimesOfEntries : public SVNStage {};
 }  // namespace
 
 TEST(RefreshTimesOfFiling, CountIntoNoneOfTheMessages) {
+  const std::string block = zrk::sample::StatusBlock("proj/car", "1.1") + kLong;
+  const std::string editLine = "proj/car\tanna\tnow\there\t" + kLong;
+  for (const std::string& filed : {block, editLine}) {
+    CVSStage stage;
+    stage.Products.Add("car", "proj/car");
+    stage.Client.When("status -v").Out(zrk::sample::kSeparatorLine + block);
+    stage.Client.When("-n edit").Out(editLine + "\r\n");
+    ZRKECVSManager manager(stage.Product("car"));
+    const DebugMessages messages;
+    CallWithAnHourAtTheCopyOf(filed, [&] { manager.RefreshStatus(stage.Root("car")); });
+    ASSERT_EQ(messages.All().size(), 3u);
+    for (const std::wstring& message : messages.All()) {
+      EXPECT_LT(Seconds(message), 3600.0) << std::string(message.begin(), message.end());
+    }
+  }
+}
+
+TEST(CommTimeOfAQuery, DoesNotHoldTheReadingOfTheReport) {
   CVSStage stage;
   stage.Products.Add("car", "proj/car");
-  const std::string block = zrk::sample::StatusBlock("proj/car", "1.1") + std::string(77'777, 'x');
-  stage.Client.When("status -v").Out(zrk::sample::kSeparatorLine + block);
+  const std::string value = "\t" + kLong;
+  stage.Client.When("status -v").Out("   Working revision:" + value + "\r\n");
   ZRKECVSManager manager(stage.Product("car"));
-  const DebugMessages messages;
-  faults::OnAllocation(block.size() + 1, LetAnHourPass);
-  manager.RefreshStatus(stage.Root("car"));
-  faults::OnAllocation(0, nullptr);
-  ASSERT_TRUE(hourPassed);
-  standin::MoveClock(-kHour);
-  ASSERT_EQ(messages.All().size(), 3u);
-  for (const std::wstring& message : messages.All()) {
-    EXPECT_LT(Seconds(message), 3600.0) << std::string(message.begin(), message.end());
-  }
+  ZRKCVSStatus record;
+  CallWithAnHourAtTheCopyOf(value,
+                            [&] { manager.GetFileStatus(CATIProduct_var(stage.Root("car")), record); });
+  EXPECT_EQ(record.WorkingRevision, kLong.c_str());
+  EXPECT_LT(manager.CommTime, kHour);
 }
 
 // The entries file is a pipe here that takes its time.
