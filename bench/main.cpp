@@ -2,6 +2,7 @@
 // a name is not a benchmark's, and with 1 when a benchmark fails.
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <exception>
 #include <fstream>
@@ -26,9 +27,16 @@ int RefuseName(const std::string& name) {
   return 2;
 }
 
+// Three digits, or all of those before the point.
+std::string Rounded(double value) {
+  std::array<char, 32> text{};
+  std::snprintf(text.data(), text.size(), value >= 1000 ? "%.0f" : "%.3g", value);
+  return text.data();
+}
+
 void Print(const Measurement& measurement) {
-  const std::string goal = measurement.Goal ? std::to_string(*measurement.Goal).substr(0, 4) : "";
-  std::printf("| %s | %.3g %s | %s | %s |\n", measurement.Name.c_str(), measurement.Value,
+  const std::string goal = measurement.Goal ? Rounded(*measurement.Goal) : "";
+  std::printf("| %s | %s %s | %s | %s |\n", measurement.Name.c_str(), Rounded(measurement.Value).c_str(),
               measurement.Unit.c_str(), goal.c_str(), measurement.Detail.c_str());
   std::fflush(stdout);
 }
