@@ -27,7 +27,7 @@ const std::vector<Kind> kKinds = {
 };
 
 // A text that stands wherever the page shows one that comes from outside.
-class PageText : public PageTest, public testing::WithParamInterface<Kind> {
+class HostileText : public PageTest, public testing::WithParamInterface<Kind> {
 protected:
   void Open() {
     const std::string& text = GetParam().Text;
@@ -45,10 +45,10 @@ protected:
   }
   std::string Shown() const { return GetParam().Shown.empty() ? GetParam().Text : GetParam().Shown; }
 };
-INSTANTIATE_TEST_SUITE_P(Of, PageText, testing::ValuesIn(kKinds),
+INSTANTIATE_TEST_SUITE_P(Of, HostileText, testing::ValuesIn(kKinds),
                          [](const auto& kind) { return kind.param.Name; });
 
-TEST_P(PageText, ShowsAsTextWhereverItStands) {
+TEST_P(HostileText, ShowsAsTextWhereverItStands) {
   Open();
   const std::string text = Shown();
   EXPECT_EQ(browser_.Run("[...document.querySelectorAll('tr')].map(row => "
@@ -63,7 +63,7 @@ TEST_P(PageText, ShowsAsTextWhereverItStands) {
   EXPECT_EQ(browser_.Run("document.querySelector('title').textContent"), text + " – who holds what");
 }
 
-TEST_P(PageText, BecomesNeitherMarkupNorScript) {
+TEST_P(HostileText, BecomesNeitherMarkupNorScript) {
   Open();
   // The script has run to its end, and no other has.
   EXPECT_EQ(browser_.Run("document.documentElement.className"), "live");
@@ -75,13 +75,13 @@ TEST_P(PageText, BecomesNeitherMarkupNorScript) {
             Json({"header", "main", "aside", "script", "script"}));
 }
 
-TEST_P(PageText, StandsInTheDataAsItIs) {
+TEST_P(HostileText, StandsInTheDataAsItIs) {
   Open();
   EXPECT_EQ(browser_.Run("JSON.parse(document.getElementById('data').textContent).products[1].slice(1)"),
             Json({GetParam().Text, "Locked", GetParam().Text, "Locked by: \n" + GetParam().Text}));
 }
 
-TEST_P(PageText, CanBeSearchedAndFiltered) {
+TEST_P(HostileText, CanBeSearchedAndFiltered) {
   Open();
   browser_.Click("[aria-pressed]:last-of-type");
   EXPECT_EQ(OnlyShown(RowsShown(browser_)).size(), 1U);

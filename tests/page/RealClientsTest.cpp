@@ -60,10 +60,10 @@ void ExpectPageOf(const Json& report, const std::filesystem::path& page, const J
             RowsThatFit(report, [](const Json& cells) { return cells.at(0) == "shaft.1"; }));
 }
 
-using CVSPage = CVSWorkingCopies;
-INSTANTIATE_TEST_SUITE_P(Of, CVSPage, testing::Values(""), [](const auto&) { return "AWorkingCopy"; });
+using RealClientsOfCVS = CVSWorkingCopies;
+INSTANTIATE_TEST_SUITE_P(Of, RealClientsOfCVS, testing::Values(""), [](const auto&) { return "AWorkingCopy"; });
 
-TEST_P(CVSPage, ShowsWhatTheReportHolds) {
+TEST_P(RealClientsOfCVS, ShowsWhatTheReportHolds) {
   CheckOut(kFiles);
   CheckOutForBen();
   BenEdits(kLeft);
@@ -75,9 +75,9 @@ TEST_P(CVSPage, ShowsWhatTheReportHolds) {
                 {{"owner", NameOf(ben_)}, {"files", Json::array({"Tür links.CATPart: Locked"})}}});
 }
 
-using SVNPage = SVNWorkingCopies;
+using RealClientsOfSVN = SVNWorkingCopies;
 
-TEST_F(SVNPage, ShowsWhatTheReportHolds) {
+TEST_F(RealClientsOfSVN, ShowsWhatTheReportHolds) {
   CheckOut(kFiles);
   repository_.Lock(bensCopy_ / kLeft, "ben", "it sticks,\n<soon> & often");
   repository_.Lock(bensCopy_ / kRight, "ben");

@@ -6,11 +6,11 @@
 
 namespace {
 
-class AFilesMode : public testing::Test, protected AttributeStage {};
+class FileModeOfADocument : public testing::Test, protected AttributeStage {};
 
 }  // namespace
 
-TEST_F(AFilesMode, MakesTheProductReadOnlyWhenAllButTheOwnerMayWrite) {
+TEST_F(FileModeOfADocument, MakesTheProductReadOnlyWhenAllButTheOwnerMayWrite) {
   using std::filesystem::perms;
   Products.Add("part", "proj/part");
   FileBlock("proj/part", "1.5");

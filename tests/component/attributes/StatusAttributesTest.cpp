@@ -14,22 +14,22 @@ using testing::IsEmpty;
 
 namespace {
 
-class AProductsStatus : public testing::Test, protected AttributeStage {
+class StatusAttributesOfAProduct : public testing::Test, protected AttributeStage {
 protected:
-  AProductsStatus() { Products.Add("part", "proj/part"); }
+  StatusAttributesOfAProduct() { Products.Add("part", "proj/part"); }
 
   CATBaseUnknown_var Part() { return Products.At("part"); }
 };
 
 }  // namespace
 
-TEST_F(AProductsStatus, IsEditWhenTheFileIsWritable) {
+TEST_F(StatusAttributesOfAProduct, IsEditWhenTheFileIsWritable) {
   FileBlock("proj/part", "1.5");
   EXPECT_EQ(Write(Part()), 0);
   EXPECT_EQ(ReadStatusAttributes(Part()), (StatusAttributes{"1.5", "Edit", Tag, ""}));
 }
 
-TEST_F(AProductsStatus, IsEditWhenTheFileIsWritableWhateverTheClientSays) {
+TEST_F(StatusAttributesOfAProduct, IsEditWhenTheFileIsWritableWhateverTheClientSays) {
   FileBlock("proj/part", "1.5", "Needs Patch");
   EditLines[Folder.Host("proj/part")] = "proj/part\nbert";
   WriteStatusAttributes(Part(), Old);
@@ -37,7 +37,7 @@ TEST_F(AProductsStatus, IsEditWhenTheFileIsWritableWhateverTheClientSays) {
   EXPECT_EQ(ReadStatusAttributes(Part()), (StatusAttributes{"1.5", "Edit", Tag, ""}));
 }
 
-TEST_F(AProductsStatus, IsLockedWithTheEditorsWhenSomebodyEditsTheReadOnlyFile) {
+TEST_F(StatusAttributesOfAProduct, IsLockedWithTheEditorsWhenSomebodyEditsTheReadOnlyFile) {
   FileBlock("proj/part", "1.5");
   EditLines[Folder.Host("proj/part")] = "proj/part\nbert\nhost";
   SetReadOnly(Folder / "proj/part");
@@ -45,7 +45,7 @@ TEST_F(AProductsStatus, IsLockedWithTheEditorsWhenSomebodyEditsTheReadOnlyFile) 
   EXPECT_EQ(ReadStatusAttributes(Part()), (StatusAttributes{"1.5", "Locked", Tag, "proj/part\nbert\nhost"}));
 }
 
-TEST_F(AProductsStatus, IsReadOnlyWithoutACommentWhenNobodyEditsTheReadOnlyFile) {
+TEST_F(StatusAttributesOfAProduct, IsReadOnlyWithoutACommentWhenNobodyEditsTheReadOnlyFile) {
   FileBlock("proj/part", "1.5");
   EditLines[Folder.Host("proj/other")] = "proj/other\nbert";
   SetReadOnly(Folder / "proj/part");
@@ -54,21 +54,21 @@ TEST_F(AProductsStatus, IsReadOnlyWithoutACommentWhenNobodyEditsTheReadOnlyFile)
   EXPECT_EQ(ReadStatusAttributes(Part()), (StatusAttributes{"1.5", "ReadOnly", Tag, ""}));
 }
 
-TEST_F(AProductsStatus, IsReadOnlyWhenTheFileIsNotOnDisk) {
+TEST_F(StatusAttributesOfAProduct, IsReadOnlyWhenTheFileIsNotOnDisk) {
   FileBlock("proj/part", "1.5");
   std::filesystem::remove(Folder / "proj/part");
   Write(Part());
   EXPECT_EQ(ReadStatusAttributes(Part()), (StatusAttributes{"1.5", "ReadOnly", Tag, ""}));
 }
 
-TEST_F(AProductsStatus, TakesNoRevisionAndNoReleaseFromAReportWithoutThem) {
+TEST_F(StatusAttributesOfAProduct, TakesNoRevisionAndNoReleaseFromAReportWithoutThem) {
   Blocks[Folder.Host("proj/part")] = "File: part\tStatus: Locally Added\r\n";
   WriteStatusAttributes(Part(), Old);
   Write(Part());
   EXPECT_EQ(ReadStatusAttributes(Part()), (StatusAttributes{"", "Edit", "", ""}));
 }
 
-TEST_F(AProductsStatus, OfAFileTheReportDoesNotKnowIsToldInOneLineAndStays) {
+TEST_F(StatusAttributesOfAProduct, OfAFileTheReportDoesNotKnowIsToldInOneLineAndStays) {
   WriteStatusAttributes(Part(), Old);
   const CapturedOutput output;
   EXPECT_EQ(Write(Part()), 0);
@@ -77,7 +77,7 @@ TEST_F(AProductsStatus, OfAFileTheReportDoesNotKnowIsToldInOneLineAndStays) {
   EXPECT_THAT(Redrawn.Paths(), ElementsAre("part"));
 }
 
-TEST_F(AProductsStatus, OfAFileTheReportDoesNotKnowIsToldBeforeTheRedrawAndFlushed) {
+TEST_F(StatusAttributesOfAProduct, OfAFileTheReportDoesNotKnowIsToldBeforeTheRedrawAndFlushed) {
   const FlushedOutput output;
   std::string toldAtRedraw;
   standin::SetRedrawListener([&](const CATBaseUnknown_var&) { toldAtRedraw = output.Text(); });
@@ -85,14 +85,14 @@ TEST_F(AProductsStatus, OfAFileTheReportDoesNotKnowIsToldBeforeTheRedrawAndFlush
   EXPECT_EQ(toldAtRedraw, "File " + Folder.Host("proj/part") + " not found!\n");
 }
 
-TEST_F(AProductsStatus, OfAFileTheReportDoesNotKnowIsNotMade) {
+TEST_F(StatusAttributesOfAProduct, OfAFileTheReportDoesNotKnowIsNotMade) {
   EditLines[Folder.Host("proj/part")] = "proj/part\nbert";
   const CapturedOutput output;
   Write(Part());
   EXPECT_EQ(ReadStatusAttributes(Part()), std::nullopt);
 }
 
-TEST_F(AProductsStatus, OfADocumentThatWasNeverStoredIsNotFoundEither) {
+TEST_F(StatusAttributesOfAProduct, OfADocumentThatWasNeverStoredIsNotFoundEither) {
   Products.Add({.Name = "new", .Document = ""});
   const CapturedOutput output;
   Write(Products.At("new"));
@@ -100,14 +100,14 @@ TEST_F(AProductsStatus, OfADocumentThatWasNeverStoredIsNotFoundEither) {
   EXPECT_THAT(Redrawn.Paths(), ElementsAre("new"));
 }
 
-TEST_F(AProductsStatus, WritesNothingElseToStandardOutput) {
+TEST_F(StatusAttributesOfAProduct, WritesNothingElseToStandardOutput) {
   FileBlock("proj/part", "1.5");
   const CapturedOutput output;
   Write(Part());
   EXPECT_EQ(OutputText(output), "");
 }
 
-TEST_F(AProductsStatus, IsLookedUpByTheExactPath) {
+TEST_F(StatusAttributesOfAProduct, IsLookedUpByTheExactPath) {
   Products.Add("Part", "proj/PART2");
   FileBlock("proj/part2", "1.5");
   const CapturedOutput output;
@@ -116,7 +116,7 @@ TEST_F(AProductsStatus, IsLookedUpByTheExactPath) {
   EXPECT_EQ(ReadStatusAttributes(Products.At("Part")), std::nullopt);
 }
 
-TEST_F(AProductsStatus, IsTakenOffAFileTheClientDoesNotKnow) {
+TEST_F(StatusAttributesOfAProduct, IsTakenOffAFileTheClientDoesNotKnow) {
   Blocks[Folder.Host("proj/part")] = "File: part\tStatus: Unknown\n";
   WriteStatusAttributes(Part(), Old);
   EXPECT_EQ(Write(Part()), 0);
@@ -124,13 +124,13 @@ TEST_F(AProductsStatus, IsTakenOffAFileTheClientDoesNotKnow) {
   EXPECT_THAT(Redrawn.Paths(), ElementsAre("part"));
 }
 
-TEST_F(AProductsStatus, IsWrittenForAnUnknownFileWhoseLineEndsInACarriageReturn) {
+TEST_F(StatusAttributesOfAProduct, IsWrittenForAnUnknownFileWhoseLineEndsInACarriageReturn) {
   FileBlock("proj/part", "1.5", "Unknown");
   Write(Part());
   EXPECT_EQ(ReadStatusAttributes(Part()), (StatusAttributes{"1.5", "Edit", Tag, ""}));
 }
 
-TEST_F(AProductsStatus, IsTakenOffForThatWordAloneInThatCase) {
+TEST_F(StatusAttributesOfAProduct, IsTakenOffForThatWordAloneInThatCase) {
   for (const char* const word : {"unknown", "UNKNOWN", "Unknown ", "Unknown file", ""}) {
     Blocks[Folder.Host("proj/part")] = std::string("File: part\tStatus: ") + word + "\n";
     WriteStatusAttributes(Part(), Old);
@@ -139,7 +139,7 @@ TEST_F(AProductsStatus, IsTakenOffForThatWordAloneInThatCase) {
   }
 }
 
-TEST_F(AProductsStatus, StandsOnTheInstanceNotOnItsReference) {
+TEST_F(StatusAttributesOfAProduct, StandsOnTheInstanceNotOnItsReference) {
   FileBlock("proj/part", "1.5");
   Products.Add("car", "proj/car").Place("car", "p", "part");
   Write(Products.At("car/p"));
@@ -148,7 +148,7 @@ TEST_F(AProductsStatus, StandsOnTheInstanceNotOnItsReference) {
   EXPECT_THAT(Redrawn.Paths(), ElementsAre("car/p"));
 }
 
-TEST_F(AProductsStatus, IsTakenOffAProductThatCannotBeLinkedWithoutARedraw) {
+TEST_F(StatusAttributesOfAProduct, IsTakenOffAProductThatCannotBeLinkedWithoutARedraw) {
   Products.AddNotLinkable("bare").Place("part", "b", "bare");
   for (const char* const path : {"bare", "part/b"}) {
     WriteStatusAttributes(Products.At(path), Old);
@@ -158,7 +158,7 @@ TEST_F(AProductsStatus, IsTakenOffAProductThatCannotBeLinkedWithoutARedraw) {
   EXPECT_THAT(Redrawn.Paths(), IsEmpty());
 }
 
-TEST_F(AProductsStatus, StaysWhereThereIsNoDocument) {
+TEST_F(StatusAttributesOfAProduct, StaysWhereThereIsNoDocument) {
   Products.AddWithoutDocument("empty");
   WriteStatusAttributes(Products.At("empty"), Old);
   const CapturedOutput output;
@@ -168,7 +168,7 @@ TEST_F(AProductsStatus, StaysWhereThereIsNoDocument) {
   EXPECT_THAT(Redrawn.Paths(), IsEmpty());
 }
 
-TEST_F(AProductsStatus, StaysWhereTheReferenceIsNotLoaded) {
+TEST_F(StatusAttributesOfAProduct, StaysWhereTheReferenceIsNotLoaded) {
   Products.Place("part", "lost", std::nullopt);
   WriteStatusAttributes(Products.At("part/lost"), Old);
   EXPECT_EQ(Write(Products.At("part/lost")), 0);
@@ -176,12 +176,12 @@ TEST_F(AProductsStatus, StaysWhereTheReferenceIsNotLoaded) {
   EXPECT_THAT(Redrawn.Paths(), IsEmpty());
 }
 
-TEST_F(AProductsStatus, OfNothingIsNone) {
+TEST_F(StatusAttributesOfAProduct, OfNothingIsNone) {
   EXPECT_EQ(Write(nullptr), 0);
   EXPECT_THAT(Redrawn.Paths(), IsEmpty());
 }
 
-TEST_F(AProductsStatus, IsNotWrittenWhereNoInstanceCanBeAddedButTheProductIsRedrawn) {
+TEST_F(StatusAttributesOfAProduct, IsNotWrittenWhereNoInstanceCanBeAddedButTheProductIsRedrawn) {
   FileBlock("proj/part", "1.5");
   standin::RefuseNewInstances(true);
   EXPECT_EQ(Write(Part()), 0);
@@ -189,7 +189,7 @@ TEST_F(AProductsStatus, IsNotWrittenWhereNoInstanceCanBeAddedButTheProductIsRedr
   EXPECT_THAT(Redrawn.Paths(), ElementsAre("part"));
 }
 
-TEST_F(AProductsStatus, IsNotWrittenOntoAProductThatCannotCarryItButTheProductIsRedrawn) {
+TEST_F(StatusAttributesOfAProduct, IsNotWrittenOntoAProductThatCannotCarryItButTheProductIsRedrawn) {
   Products.Add(
       {.Name = "fixed", .Document = Folder.Host("proj/part"), .Linkable = true, .Extendable = false});
   FileBlock("proj/part", "1.5");
@@ -197,13 +197,13 @@ TEST_F(AProductsStatus, IsNotWrittenOntoAProductThatCannotCarryItButTheProductIs
   EXPECT_THAT(Redrawn.Paths(), ElementsAre("fixed"));
 }
 
-TEST_F(AProductsStatus, IsRedrawnOnceWhenItIsWritten) {
+TEST_F(StatusAttributesOfAProduct, IsRedrawnOnceWhenItIsWritten) {
   FileBlock("proj/part", "1.5");
   Write(Part());
   EXPECT_THAT(Redrawn.Paths(), ElementsAre("part"));
 }
 
-TEST_F(AProductsStatus, StandsWhenTheProductIsRedrawn) {
+TEST_F(StatusAttributesOfAProduct, StandsWhenTheProductIsRedrawn) {
   std::vector<std::optional<StatusAttributes>> drawn;
   standin::SetRedrawListener(
       [&](const CATBaseUnknown_var& product) { drawn.push_back(ReadStatusAttributes(product)); });
@@ -214,7 +214,7 @@ TEST_F(AProductsStatus, StandsWhenTheProductIsRedrawn) {
   EXPECT_THAT(drawn, ElementsAre(StatusAttributes{"1.5", "Edit", Tag, ""}, std::nullopt));
 }
 
-TEST_F(AProductsStatus, LeavesOutTheParametersThatTheClassDoesNotHave) {
+TEST_F(StatusAttributesOfAProduct, LeavesOutTheParametersThatTheClassDoesNotHave) {
   standin::InstallAttributeDictionary({{"ZRKCVS", {"Revision", "Comment"}}});
   FileBlock("proj/part", "1.5");
   EditLines[Folder.Host("proj/part")] = "proj/part\nbert";
@@ -223,7 +223,7 @@ TEST_F(AProductsStatus, LeavesOutTheParametersThatTheClassDoesNotHave) {
   EXPECT_EQ(ReadStatusAttributes(Part()), (StatusAttributes{"1.5", "", "", "proj/part\nbert"}));
 }
 
-TEST_F(AProductsStatus, TouchesNoOtherParameterOfTheClass) {
+TEST_F(StatusAttributesOfAProduct, TouchesNoOtherParameterOfTheClass) {
   standin::InstallAttributeDictionary({{"ZRKCVS", {"Revision", "Status", "Release", "Comment", "File"}}});
   FileBlock("proj/part", "1.5");
   Write(Part());

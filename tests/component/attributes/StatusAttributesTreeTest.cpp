@@ -12,9 +12,9 @@ using testing::IsEmpty;
 namespace {
 
 // "car" with axles "a" and "b", which have wheels "w".
-class ATreesStatus : public testing::Test, protected AttributeStage {
+class StatusAttributesTree : public testing::Test, protected AttributeStage {
 protected:
-  ATreesStatus() {
+  StatusAttributesTree() {
     Products.Add("car", "proj/car").Add("axle", "proj/axle").Add("wheel", "proj/wheel");
     Products.Place("axle", "w", "wheel").Place("car", "b", "axle").Place("car", "a", "axle");
     FileBlock("proj/car", "1.1");
@@ -29,7 +29,7 @@ protected:
 
 }  // namespace
 
-TEST_F(ATreesStatus, IsWrittenOntoEveryProductParentsFirst) {
+TEST_F(StatusAttributesTree, IsWrittenOntoEveryProductParentsFirst) {
   EXPECT_EQ(WriteTree(Products.At("car")), 0);
   EXPECT_THAT(Redrawn.Paths(), ElementsAre("car", "car/b", "car/b/w", "car/a", "car/a/w"));
   EXPECT_EQ(RevisionOf("car"), "1.1");
@@ -39,12 +39,12 @@ TEST_F(ATreesStatus, IsWrittenOntoEveryProductParentsFirst) {
   EXPECT_EQ(RevisionOf("car/b/w"), "1.3");
 }
 
-TEST_F(ATreesStatus, OfOneProductLeavesItsChildrenAlone) {
+TEST_F(StatusAttributesTree, OfOneProductLeavesItsChildrenAlone) {
   Write(Products.At("car"));
   EXPECT_THAT(Redrawn.Paths(), ElementsAre("car"));
 }
 
-TEST_F(ATreesStatus, GoesOnBelowAProductThatIsNotFound) {
+TEST_F(StatusAttributesTree, GoesOnBelowAProductThatIsNotFound) {
   Blocks.erase(Folder.Host("proj/car"));
   const CapturedOutput output;
   WriteTree(Products.At("car"));
@@ -53,7 +53,7 @@ TEST_F(ATreesStatus, GoesOnBelowAProductThatIsNotFound) {
   EXPECT_EQ(RevisionOf("car/a"), "1.2");
 }
 
-TEST_F(ATreesStatus, TellsAFileThatIsNotFoundOncePerUse) {
+TEST_F(StatusAttributesTree, TellsAFileThatIsNotFoundOncePerUse) {
   Blocks.erase(Folder.Host("proj/axle"));
   const CapturedOutput output;
   WriteTree(Products.At("car"));
@@ -61,7 +61,7 @@ TEST_F(ATreesStatus, TellsAFileThatIsNotFoundOncePerUse) {
   EXPECT_EQ(OutputText(output), line + line);
 }
 
-TEST_F(ATreesStatus, GoesOnBelowAProductThatIsUnknown) {
+TEST_F(StatusAttributesTree, GoesOnBelowAProductThatIsUnknown) {
   Blocks[Folder.Host("proj/axle")] = "File: axle\tStatus: Unknown\n";
   WriteStatusAttributes(Products.At("car/a"), Old);
   WriteTree(Products.At("car"));
@@ -69,7 +69,7 @@ TEST_F(ATreesStatus, GoesOnBelowAProductThatIsUnknown) {
   EXPECT_EQ(RevisionOf("car/a/w"), "1.3");
 }
 
-TEST_F(ATreesStatus, EndsAtAProductWithoutADocument) {
+TEST_F(StatusAttributesTree, EndsAtAProductWithoutADocument) {
   Products.AddWithoutDocument("empty").Place("empty", "w", "wheel").Place("car", "e", "empty");
   Products.Place("car", "w", "wheel");
   WriteStatusAttributes(Products.At("car/e"), Old);
@@ -80,7 +80,7 @@ TEST_F(ATreesStatus, EndsAtAProductWithoutADocument) {
   EXPECT_EQ(RevisionOf("car/w"), "1.3");
 }
 
-TEST_F(ATreesStatus, EndsAtAProductThatCannotBeLinked) {
+TEST_F(StatusAttributesTree, EndsAtAProductThatCannotBeLinked) {
   Products.AddNotLinkable("bare").Place("bare", "w", "wheel").Place("car", "e", "bare");
   Products.Place("car", "w", "wheel");
   WriteStatusAttributes(Products.At("car/e"), Old);
@@ -91,7 +91,7 @@ TEST_F(ATreesStatus, EndsAtAProductThatCannotBeLinked) {
   EXPECT_EQ(RevisionOf("car/w"), "1.3");
 }
 
-TEST_F(ATreesStatus, GoesOnBehindAProductWithoutItsReference) {
+TEST_F(StatusAttributesTree, GoesOnBehindAProductWithoutItsReference) {
   Products.Place("car", "lost", std::nullopt).Place("car", "w", "wheel");
   WriteStatusAttributes(Products.At("car/lost"), Old);
   WriteTree(Products.At("car"));
@@ -99,13 +99,13 @@ TEST_F(ATreesStatus, GoesOnBehindAProductWithoutItsReference) {
   EXPECT_EQ(RevisionOf("car/w"), "1.3");
 }
 
-TEST_F(ATreesStatus, BeginsAtAReferenceWhoseTestAnswersWithAPositiveCode) {
+TEST_F(StatusAttributesTree, BeginsAtAReferenceWhoseTestAnswersWithAPositiveCode) {
   WriteTree(AffirmedReference::Of(Products.At("car")));
   EXPECT_EQ(RevisionOf("car"), "1.1");
   EXPECT_EQ(RevisionOf("car/a"), "1.2");
 }
 
-TEST_F(ATreesStatus, OfNothingIsNone) {
+TEST_F(StatusAttributesTree, OfNothingIsNone) {
   EXPECT_EQ(WriteTree(nullptr), 0);
   EXPECT_THAT(Redrawn.Paths(), IsEmpty());
 }

@@ -7,44 +7,44 @@ using testing::ElementsAre;
 
 namespace {
 
-class AnArgumentChunk : public testing::Test {
+class ArgumentChunksOfPaths : public testing::Test {
 protected:
   ArgumentChunks stage_;
 };
 
 }  // namespace
 
-TEST_F(AnArgumentChunk, IsFollowedByANewOneWhenTheNextPathWouldMakeIt32000Long) {
+TEST_F(ArgumentChunksOfPaths, IsFollowedByANewOneWhenTheNextPathWouldMakeIt32000Long) {
   const std::string path = stage_.AddWithPathOf(10, "part");
   const std::string full(32'000 - 3 - 10, 'x');
   EXPECT_THAT(stage_.Collected(stage_.Tree.At("part"), full), ElementsAre(full, Argument(path)));
   EXPECT_EQ(stage_.Position, 2);
 }
 
-TEST_F(AnArgumentChunk, TakesAPathThatMakesIt31999Long) {
+TEST_F(ArgumentChunksOfPaths, TakesAPathThatMakesIt31999Long) {
   const std::string path = stage_.AddWithPathOf(10, "part");
   const std::string almostFull(32'000 - 3 - 10 - 1, 'x');
   EXPECT_THAT(stage_.Collected(stage_.Tree.At("part"), almostFull), ElementsAre(almostFull + Argument(path)));
   EXPECT_EQ(stage_.Position, 1);
 }
 
-TEST_F(AnArgumentChunk, Of31990CharactersDoesNotTakeAPathOfTen) {
+TEST_F(ArgumentChunksOfPaths, Of31990CharactersDoesNotTakeAPathOfTen) {
   const std::string path = stage_.AddWithPathOf(10, "part");
   const std::string chunk(31'990, 'x');
   EXPECT_THAT(stage_.Collected(stage_.Tree.At("part"), chunk), ElementsAre(chunk, Argument(path)));
 }
 
-TEST_F(AnArgumentChunk, StaysEmptyBeforeAFirstPathOf31997Characters) {
+TEST_F(ArgumentChunksOfPaths, StaysEmptyBeforeAFirstPathOf31997Characters) {
   const std::string path = stage_.AddWithPathOf(31'997, "part");
   EXPECT_THAT(stage_.Collected(stage_.Tree.At("part")), ElementsAre("", Argument(path)));
 }
 
-TEST_F(AnArgumentChunk, TakesAFirstPathOf31996Characters) {
+TEST_F(ArgumentChunksOfPaths, TakesAFirstPathOf31996Characters) {
   const std::string path = stage_.AddWithPathOf(31'996, "part");
   EXPECT_THAT(stage_.Collected(stage_.Tree.At("part")), ElementsAre(Argument(path)));
 }
 
-TEST_F(AnArgumentChunk, HoldsALongPathAlone) {
+TEST_F(ArgumentChunksOfPaths, HoldsALongPathAlone) {
   stage_.Tree.Add("car", "proj/car").Add("axle", "proj/axle");
   const std::string path = stage_.AddWithPathOf(40'000, "part");
   stage_.Tree.Place("car", "p", "part").Place("car", "a", "axle");
@@ -53,7 +53,7 @@ TEST_F(AnArgumentChunk, HoldsALongPathAlone) {
   EXPECT_EQ(stage_.Position, 3);
 }
 
-TEST_F(AnArgumentChunk, NeverReaches32000CharactersByShortPaths) {
+TEST_F(ArgumentChunksOfPaths, NeverReaches32000CharactersByShortPaths) {
   stage_.Tree.Add("car", "proj/car");
   std::string expected = Argument("proj\\car");
   const std::string path = stage_.AddWithPathOf(97, "part");
@@ -76,7 +76,7 @@ TEST_F(AnArgumentChunk, NeverReaches32000CharactersByShortPaths) {
   EXPECT_EQ(chunks.at(1).size(), 31'900u);
 }
 
-TEST_F(AnArgumentChunk, IsFilledFromThePositionGiven) {
+TEST_F(ArgumentChunksOfPaths, IsFilledFromThePositionGiven) {
   const std::string path = stage_.AddWithPathOf(10, "part");
   CATListValCATUnicodeString chunks;
   chunks.Append("first");
@@ -86,7 +86,7 @@ TEST_F(AnArgumentChunk, IsFilledFromThePositionGiven) {
   EXPECT_EQ(chunks[2].ConvertToChar(), "second" + Argument(path));
 }
 
-TEST_F(AnArgumentChunk, IsFollowedByTheOneBehindIt) {
+TEST_F(ArgumentChunksOfPaths, IsFollowedByTheOneBehindIt) {
   const std::string path = stage_.AddWithPathOf(10, "part");
   CATListValCATUnicodeString chunks;
   chunks.Append(std::string(32'000, 'x').c_str());
@@ -98,7 +98,7 @@ TEST_F(AnArgumentChunk, IsFollowedByTheOneBehindIt) {
   EXPECT_EQ(chunks.Size(), 4);
 }
 
-TEST_F(AnArgumentChunk, IsMeasuredWithoutTheWorkingFolder) {
+TEST_F(ArgumentChunksOfPaths, IsMeasuredWithoutTheWorkingFolder) {
   // The full path is longer than 31,997 characters, the relative one is not.
   const std::string path = stage_.AddWithPathOf(31'990, "part");
   ASSERT_GT(stage_.Folder.Host().size() + path.size(), 31'997u);

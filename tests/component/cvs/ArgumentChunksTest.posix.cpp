@@ -6,7 +6,7 @@
 using testing::ElementsAre;
 
 // In UTF-8, where a character has several bytes.
-TEST(AnArgumentChunkInUTF8, IsMeasuredInCharactersNotInBytes) {
+TEST(ArgumentChunksInUTF8, IsMeasuredInCharactersNotInBytes) {
   ArgumentChunks stage;
   const std::string path = stage.AddWithPathOf(31'996, "part", "\xC3\xA9");
   ASSERT_GT(path.size(), 60'000u);
@@ -16,7 +16,7 @@ TEST(AnArgumentChunkInUTF8, IsMeasuredInCharactersNotInBytes) {
   EXPECT_THAT(stage.Collected(stage.Tree.At("longer")), ElementsAre("", Argument(longer)));
 }
 
-TEST(AnArgumentChunkInUTF8, ThatIsFilledIsMeasuredInCharactersToo) {
+TEST(ArgumentChunksInUTF8, ThatIsFilledIsMeasuredInCharactersToo) {
   ArgumentChunks stage;
   const std::string path = stage.AddWithPathOf(10, "part");
   std::string chunk;

@@ -18,9 +18,9 @@ using zrk::cvs::RelativePath;
 
 namespace {
 
-class AFileArgument : public testing::Test {
+class FileArguments : public testing::Test {
 protected:
-  AFileArgument() { WriteCVSFolder(folder_ / "proj", "/cvs/root", "proj"); }
+  FileArguments() { WriteCVSFolder(folder_ / "proj", "/cvs/root", "proj"); }
 
   // The tail after the product's argument was appended to `tail`.
   std::string Appended(const CATBaseUnknown_var& product, const char* tail = "") {
@@ -57,23 +57,23 @@ TEST(AQuotedPath, StandsBetweenDoubleQuotes) {
   EXPECT_EQ(Text(zrk::cvs::Quoted("proj\\a b")), "\"proj\\a b\"");
 }
 
-TEST_F(AFileArgument, IsABlankAndTheQuotedRelativePath) {
+TEST_F(FileArguments, IsABlankAndTheQuotedRelativePath) {
   assembly_.Add("car", "proj/a b.CATPart");
   EXPECT_EQ(Appended(assembly_.At("car")), " \"proj\\a b.CATPart\"");
   EXPECT_EQ(Appended(assembly_.At("car"), " status -v"), " status -v \"proj\\a b.CATPart\"");
 }
 
-TEST_F(AFileArgument, OfAnInstanceIsItsReferencesDocument) {
+TEST_F(FileArguments, OfAnInstanceIsItsReferencesDocument) {
   assembly_.Add("car", "proj/car").Add("axle", "proj/axle").Place("car", "a", "axle");
   EXPECT_EQ(Appended(assembly_.At("car/a")), " \"proj\\axle\"");
 }
 
-TEST_F(AFileArgument, IsThatOfOneProductNotOfTheTreeBelow) {
+TEST_F(FileArguments, IsThatOfOneProductNotOfTheTreeBelow) {
   assembly_.Add("car", "proj/car").Add("axle", "proj/axle").Place("car", "a", "axle");
   EXPECT_EQ(Appended(assembly_.At("car")), " \"proj\\car\"");
 }
 
-TEST_F(AFileArgument, NeedsTheRepositoryFileBesideTheDocument) {
+TEST_F(FileArguments, NeedsTheRepositoryFileBesideTheDocument) {
   assembly_.Add("other", "other/a").Add("below", "proj/sub/a");
   EXPECT_EQ(Appended(assembly_.At("other"), "x"), "x");
   EXPECT_EQ(Appended(assembly_.At("below"), "x"), "x");
@@ -83,17 +83,17 @@ TEST_F(AFileArgument, NeedsTheRepositoryFileBesideTheDocument) {
   EXPECT_EQ(Appended(assembly_.At("other"), "x"), "x \"other\\a\"");
 }
 
-TEST_F(AFileArgument, NeedsNoDocumentOnDisk) {
+TEST_F(FileArguments, NeedsNoDocumentOnDisk) {
   assembly_.Add({.Name = "car", .Document = folder_.Host("proj") + "\\missing"});
   EXPECT_EQ(Appended(assembly_.At("car")), " \"proj\\missing\"");
 }
 
-TEST_F(AFileArgument, IsMissingForADocumentThatWasNeverStored) {
+TEST_F(FileArguments, IsMissingForADocumentThatWasNeverStored) {
   assembly_.Add({.Name = "car", .Document = ""});
   EXPECT_EQ(Appended(assembly_.At("car"), "x"), "x");
 }
 
-TEST_F(AFileArgument, OfAProductWithoutADocumentIsMissingAndLeavesItAlone) {
+TEST_F(FileArguments, OfAProductWithoutADocumentIsMissingAndLeavesItAlone) {
   assembly_.AddWithoutDocument("car");
   WriteStatusAttributes(assembly_.At("car"), attributes_);
   const RedrawnProducts redrawn;
@@ -102,7 +102,7 @@ TEST_F(AFileArgument, OfAProductWithoutADocumentIsMissingAndLeavesItAlone) {
   EXPECT_THAT(redrawn.Paths(), IsEmpty());
 }
 
-TEST_F(AFileArgument, OfAProductWithoutItsReferenceIsMissingAndClearsIt) {
+TEST_F(FileArguments, OfAProductWithoutItsReferenceIsMissingAndClearsIt) {
   assembly_.Add("car", "proj/car").Place("car", "lost", std::nullopt);
   WriteStatusAttributes(assembly_.At("car/lost"), attributes_);
   const RedrawnProducts redrawn;
@@ -111,7 +111,7 @@ TEST_F(AFileArgument, OfAProductWithoutItsReferenceIsMissingAndClearsIt) {
   EXPECT_THAT(redrawn.Paths(), ElementsAre("car/lost"));
 }
 
-TEST_F(AFileArgument, OfAProductThatCannotBeLinkedIsMissingAndClearsTheProductGiven) {
+TEST_F(FileArguments, OfAProductThatCannotBeLinkedIsMissingAndClearsTheProductGiven) {
   assembly_.Add("car", "proj/car").AddNotLinkable("axle").Place("car", "a", "axle");
   WriteStatusAttributes(assembly_.At("car/a"), attributes_);
   WriteStatusAttributes(assembly_.At("axle"), attributes_);
@@ -122,7 +122,7 @@ TEST_F(AFileArgument, OfAProductThatCannotBeLinkedIsMissingAndClearsTheProductGi
   EXPECT_THAT(redrawn.Paths(), ElementsAre("car/a"));
 }
 
-TEST_F(AFileArgument, RedrawsNothingWhenThereIsADocument) {
+TEST_F(FileArguments, RedrawsNothingWhenThereIsADocument) {
   assembly_.Add("car", "proj/car").Add("other", "other/a");
   const RedrawnProducts redrawn;
   Appended(assembly_.At("car"));
@@ -130,7 +130,7 @@ TEST_F(AFileArgument, RedrawsNothingWhenThereIsADocument) {
   EXPECT_THAT(redrawn.Paths(), IsEmpty());
 }
 
-TEST_F(AFileArgument, OfWhatIsNoProductIsMissing) {
+TEST_F(FileArguments, OfWhatIsNoProductIsMissing) {
   const WorkModes modes;
   const RedrawnProducts redrawn;
   EXPECT_EQ(Appended(nullptr, "x"), "x");
@@ -139,7 +139,7 @@ TEST_F(AFileArgument, OfWhatIsNoProductIsMissing) {
   EXPECT_THAT(redrawn.Paths(), IsEmpty());
 }
 
-TEST_F(AFileArgument, PutsTheProductItselfIntoWorkModeOne) {
+TEST_F(FileArguments, PutsTheProductItselfIntoWorkModeOne) {
   assembly_.Add("car", "proj/car").Add("axle", "proj/axle").Place("car", "a", "axle");
   assembly_.Place("car", "lost", std::nullopt);
   const WorkModes modes;

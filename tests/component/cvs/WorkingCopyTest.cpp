@@ -12,7 +12,7 @@ using zrk::cvs::WorkingCopy;
 
 namespace {
 
-class Discovery : public testing::Test {
+class WorkingCopyDiscovery : public testing::Test {
 protected:
   WorkingCopy Found(const std::string& product) {
     WorkingCopy found;
@@ -38,7 +38,7 @@ protected:
 
 }  // namespace
 
-TEST_F(Discovery, FindsTheWorkingFolderWhereTheRepositoryPathBegins) {
+TEST_F(WorkingCopyDiscovery, FindsTheWorkingFolderWhereTheRepositoryPathBegins) {
   WriteCVSFolder(folder_ / "w/proj/sub", ":pserver:anna@host:/cvs/root", "proj/sub");
   assembly_.Add("part", "w/proj/sub/a.CATPart");
   const WorkingCopy found = Found("part");
@@ -48,19 +48,19 @@ TEST_F(Discovery, FindsTheWorkingFolderWhereTheRepositoryPathBegins) {
   EXPECT_EQ(Text(found.SVNWorkingFolder), "");
 }
 
-TEST_F(Discovery, TakesTheFirstPlaceWhereTheRepositoryPathOccurs) {
+TEST_F(WorkingCopyDiscovery, TakesTheFirstPlaceWhereTheRepositoryPathOccurs) {
   WriteCVSFolder(folder_ / "w/proj/x/proj", "/cvs/root", "proj");
   assembly_.Add("part", "w/proj/x/proj/a.CATPart");
   EXPECT_EQ(Text(Found("part").SandboxRoot), HostFolder("w"));
 }
 
-TEST_F(Discovery, LooksForTheRepositoryPathInTheDocumentsNameToo) {
+TEST_F(WorkingCopyDiscovery, LooksForTheRepositoryPathInTheDocumentsNameToo) {
   WriteCVSFolder(folder_ / "w", "/cvs/root", "part");
   assembly_.Add("part", "w/a.part");
   EXPECT_EQ(Text(Found("part").SandboxRoot), HostFolder("w") + "a.");
 }
 
-TEST_F(Discovery, ReadsAdministrativeFilesWithWindowsLineEnds) {
+TEST_F(WorkingCopyDiscovery, ReadsAdministrativeFilesWithWindowsLineEnds) {
   WriteFile(folder_ / "w/proj/sub/CVS/Repository", "proj/sub\r\n");
   WriteFile(folder_ / "w/proj/sub/CVS/Root", "/cvs/root\r\n");
   assembly_.Add("part", "w/proj/sub/a");
@@ -69,7 +69,7 @@ TEST_F(Discovery, ReadsAdministrativeFilesWithWindowsLineEnds) {
   EXPECT_EQ(Text(found.CVSRoot), "/cvs/root");
 }
 
-TEST_F(Discovery, OpensTheRootAsTheProcessOpensFilesAndTheOthersAsText) {
+TEST_F(WorkingCopyDiscovery, OpensTheRootAsTheProcessOpensFilesAndTheOthersAsText) {
   WriteFile(folder_ / "w/proj/sub/CVS/Repository", "proj/sub\r\n");
   WriteFile(folder_ / "w/proj/sub/CVS/Root", "/cvs/root\r\n");
   assembly_.Add("part", "w/proj/sub/a");
@@ -79,7 +79,7 @@ TEST_F(Discovery, OpensTheRootAsTheProcessOpensFilesAndTheOthersAsText) {
   EXPECT_EQ(Text(found.CVSRoot), "/cvs/root\r");
 }
 
-TEST_F(Discovery, ReadsAdministrativeFilesWithoutALastLineEnd) {
+TEST_F(WorkingCopyDiscovery, ReadsAdministrativeFilesWithoutALastLineEnd) {
   WriteFile(folder_ / "w/proj/CVS/Repository", "proj");
   WriteFile(folder_ / "w/proj/CVS/Root", "/cvs/root");
   assembly_.Add("part", "w/proj/a");
@@ -88,7 +88,7 @@ TEST_F(Discovery, ReadsAdministrativeFilesWithoutALastLineEnd) {
   EXPECT_EQ(Text(found.CVSRoot), "/cvs/root");
 }
 
-TEST_F(Discovery, JoinsTheLinesOfAdministrativeFilesAndTrimsNothingElse) {
+TEST_F(WorkingCopyDiscovery, JoinsTheLinesOfAdministrativeFilesAndTrimsNothingElse) {
   WriteFile(folder_ / "w/proj/CVS/Repository", "pr\n\noj\n");
   WriteFile(folder_ / "w/proj/CVS/Root", " /cvs\n/root \t\n");
   assembly_.Add("part", "w/proj/a");
@@ -97,13 +97,13 @@ TEST_F(Discovery, JoinsTheLinesOfAdministrativeFilesAndTrimsNothingElse) {
   EXPECT_EQ(Text(found.CVSRoot), " /cvs/root \t");
 }
 
-TEST_F(Discovery, KeepsSlashesOfTheRoot) {
+TEST_F(WorkingCopyDiscovery, KeepsSlashesOfTheRoot) {
   WriteCVSFolder(folder_ / "proj", "C:/cvs/root", "proj");
   assembly_.Add("part", "proj/a");
   EXPECT_EQ(Text(Found("part").CVSRoot), "C:/cvs/root");
 }
 
-TEST_F(Discovery, LeavesTheWorkingFolderEmptyWhenTheRepositoryPathDoesNotOccur) {
+TEST_F(WorkingCopyDiscovery, LeavesTheWorkingFolderEmptyWhenTheRepositoryPathDoesNotOccur) {
   WriteCVSFolder(folder_ / "proj", "/cvs/root", "elsewhere");
   assembly_.Add("part", "proj/a");
   const WorkingCopy found = FoundUpon(known_, "part");
@@ -111,7 +111,7 @@ TEST_F(Discovery, LeavesTheWorkingFolderEmptyWhenTheRepositoryPathDoesNotOccur) 
   EXPECT_EQ(Text(found.CVSRoot), "/cvs/root");
 }
 
-TEST_F(Discovery, KeepsTheRootThatIsKnownWhereThereIsNoRootFile) {
+TEST_F(WorkingCopyDiscovery, KeepsTheRootThatIsKnownWhereThereIsNoRootFile) {
   WriteFile(folder_ / "proj/CVS/Repository", "proj\n");
   assembly_.Add("part", "proj/a");
   const WorkingCopy found = FoundUpon(known_, "part");
@@ -119,7 +119,7 @@ TEST_F(Discovery, KeepsTheRootThatIsKnownWhereThereIsNoRootFile) {
   EXPECT_EQ(Text(found.CVSRoot), "/known/root");
 }
 
-TEST_F(Discovery, TakesARootFileAloneForNoWorkingCopy) {
+TEST_F(WorkingCopyDiscovery, TakesARootFileAloneForNoWorkingCopy) {
   WriteFile(folder_ / "proj/CVS/Root", "/cvs/root\n");
   assembly_.Add("part", "proj/a");
   const WorkingCopy found = Found("part");
@@ -127,13 +127,13 @@ TEST_F(Discovery, TakesARootFileAloneForNoWorkingCopy) {
   EXPECT_EQ(Text(found.CVSRoot), "");
 }
 
-TEST_F(Discovery, FindsTheDocumentOfAnInstance) {
+TEST_F(WorkingCopyDiscovery, FindsTheDocumentOfAnInstance) {
   WriteCVSFolder(folder_ / "proj", "/cvs/root", "proj");
   assembly_.Add("car", "other/car").Add("part", "proj/a").Place("car", "p", "part");
   EXPECT_EQ(Text(Found("car/p").SandboxRoot), folder_.Host() + "\\");
 }
 
-TEST_F(Discovery, DoesNotLookBelowAProductInACVSWorkingCopy) {
+TEST_F(WorkingCopyDiscovery, DoesNotLookBelowAProductInACVSWorkingCopy) {
   WriteCVSFolder(folder_ / "proj", "/cvs/root", "proj");
   WriteCVSFolder(folder_ / "w/other", "/other/root", "other");
   WriteSVNFolder("w/other");
@@ -144,7 +144,7 @@ TEST_F(Discovery, DoesNotLookBelowAProductInACVSWorkingCopy) {
   EXPECT_FALSE(found.IsSVN);
 }
 
-TEST_F(Discovery, DoesNotLookBelowAProductWhoseWorkingCopyHasNoRootFile) {
+TEST_F(WorkingCopyDiscovery, DoesNotLookBelowAProductWhoseWorkingCopyHasNoRootFile) {
   WriteFile(folder_ / "proj/CVS/Repository", "proj\n");
   WriteCVSFolder(folder_ / "w/other", "/other/root", "other");
   assembly_.Add("car", "proj/car").Add("part", "w/other/a").Place("car", "p", "part");
@@ -153,14 +153,14 @@ TEST_F(Discovery, DoesNotLookBelowAProductWhoseWorkingCopyHasNoRootFile) {
   EXPECT_EQ(Text(found.SandboxRoot), folder_.Host() + "\\");
 }
 
-TEST_F(Discovery, GoesDownUntilItFindsACVSWorkingCopy) {
+TEST_F(WorkingCopyDiscovery, GoesDownUntilItFindsACVSWorkingCopy) {
   WriteCVSFolder(folder_ / "proj", "/cvs/root", "proj");
   assembly_.Add("car", "plain/car").Add("axle", "plain/axle").Add("part", "proj/a");
   assembly_.Place("axle", "p", "part").Place("car", "a", "axle");
   EXPECT_EQ(Text(Found("car").CVSRoot), "/cvs/root");
 }
 
-TEST_F(Discovery, OfSeveralWorkingCopiesTheLastInTheOrderOfTheTreeHolds) {
+TEST_F(WorkingCopyDiscovery, OfSeveralWorkingCopiesTheLastInTheOrderOfTheTreeHolds) {
   WriteCVSFolder(folder_ / "1/one", "/one", "one");
   WriteCVSFolder(folder_ / "2/two", "/two", "two");
   WriteCVSFolder(folder_ / "3/three", "/three", "three");
@@ -173,7 +173,7 @@ TEST_F(Discovery, OfSeveralWorkingCopiesTheLastInTheOrderOfTheTreeHolds) {
   EXPECT_EQ(Text(Found("car").SandboxRoot), HostFolder("2"));
 }
 
-TEST_F(Discovery, FindsTheSubversionFolderOfTheDocument) {
+TEST_F(WorkingCopyDiscovery, FindsTheSubversionFolderOfTheDocument) {
   WriteSVNFolder("w/sub");
   assembly_.Add("part", "w/sub/a");
   const WorkingCopy found = Found("part");
@@ -183,13 +183,13 @@ TEST_F(Discovery, FindsTheSubversionFolderOfTheDocument) {
   EXPECT_EQ(Text(found.CVSRoot), "");
 }
 
-TEST_F(Discovery, NeedsTheEntriesFileOfASubversionFolder) {
+TEST_F(WorkingCopyDiscovery, NeedsTheEntriesFileOfASubversionFolder) {
   std::filesystem::create_directories(folder_ / "w/.svn");
   assembly_.Add("part", "w/a");
   EXPECT_FALSE(Found("part").IsSVN);
 }
 
-TEST_F(Discovery, TakesNoOtherFileForTheEntriesFile) {
+TEST_F(WorkingCopyDiscovery, TakesNoOtherFileForTheEntriesFile) {
   for (const char* const file : {"format", "all-wcprops", "dir-props", "entries.bak", "README.txt"}) {
     WriteFile(folder_ / "w/.svn" / file, "10\n");
   }
@@ -197,7 +197,7 @@ TEST_F(Discovery, TakesNoOtherFileForTheEntriesFile) {
   EXPECT_FALSE(Found("part").IsSVN);
 }
 
-TEST_F(Discovery, TakesFoldersForNoAdministrativeFiles) {
+TEST_F(WorkingCopyDiscovery, TakesFoldersForNoAdministrativeFiles) {
   std::filesystem::create_directories(folder_ / "w/.svn/entries");
   std::filesystem::create_directories(folder_ / "w/CVS/Repository");
   assembly_.Add("part", "w/a");
@@ -206,7 +206,7 @@ TEST_F(Discovery, TakesFoldersForNoAdministrativeFiles) {
   EXPECT_EQ(Text(found.SandboxRoot), "C:\\w\\");
 }
 
-TEST_F(Discovery, FindsBothInAFolderOfBoth) {
+TEST_F(WorkingCopyDiscovery, FindsBothInAFolderOfBoth) {
   WriteSVNFolder("w/proj");
   WriteCVSFolder(folder_ / "w/proj", "/cvs/root", "proj");
   assembly_.Add("part", "w/proj/a");
@@ -217,7 +217,7 @@ TEST_F(Discovery, FindsBothInAFolderOfBoth) {
   EXPECT_EQ(Text(found.CVSRoot), "/cvs/root");
 }
 
-TEST_F(Discovery, TheProductExaminedLastDecidesWhetherItIsSubversion) {
+TEST_F(WorkingCopyDiscovery, TheProductExaminedLastDecidesWhetherItIsSubversion) {
   WriteSVNFolder("svn");
   assembly_.Add("car", "svn/car").Add("part", "plain/a").Place("car", "p", "part");
   const WorkingCopy found = Found("car");
@@ -229,14 +229,14 @@ TEST_F(Discovery, TheProductExaminedLastDecidesWhetherItIsSubversion) {
   EXPECT_TRUE(Found("top").IsSVN);
 }
 
-TEST_F(Discovery, TakesTheLastSubversionFolder) {
+TEST_F(WorkingCopyDiscovery, TakesTheLastSubversionFolder) {
   WriteSVNFolder("1");
   WriteSVNFolder("2");
   assembly_.Add("car", "1/car").Add("part", "2/a").Place("car", "p", "part");
   EXPECT_EQ(Text(Found("car").SVNWorkingFolder), folder_.Host() + "\\2");
 }
 
-TEST_F(Discovery, ClearsTheSubversionFlagAloneInAPlainFolder) {
+TEST_F(WorkingCopyDiscovery, ClearsTheSubversionFlagAloneInAPlainFolder) {
   assembly_.Add("part", "plain/a");
   const WorkingCopy found = FoundUpon(known_, "part");
   EXPECT_FALSE(found.IsSVN);
@@ -245,7 +245,7 @@ TEST_F(Discovery, ClearsTheSubversionFlagAloneInAPlainFolder) {
   EXPECT_EQ(Text(found.CVSRoot), "/known/root");
 }
 
-TEST_F(Discovery, LeavesAllAsItWasWithoutAStoredDocument) {
+TEST_F(WorkingCopyDiscovery, LeavesAllAsItWasWithoutAStoredDocument) {
   WriteCVSFolder(folder_ / "proj", "/cvs/root", "proj");
   assembly_.AddWithoutDocument("none").AddNotLinkable("unlinked").Add({.Name = "new", .Document = ""});
   assembly_.Add("part", "proj/a");
@@ -259,7 +259,7 @@ TEST_F(Discovery, LeavesAllAsItWasWithoutAStoredDocument) {
   }
 }
 
-TEST_F(Discovery, GoesOnBehindAProductWithoutItsReference) {
+TEST_F(WorkingCopyDiscovery, GoesOnBehindAProductWithoutItsReference) {
   WriteCVSFolder(folder_ / "proj", "/cvs/root", "proj");
   assembly_.Add("car", "plain/car").Add("part", "proj/a");
   assembly_.Place("car", "lost", std::nullopt).Place("car", "p", "part");
@@ -267,7 +267,7 @@ TEST_F(Discovery, GoesOnBehindAProductWithoutItsReference) {
   EXPECT_EQ(Text(FoundUpon(known_, "car/lost").CVSRoot), "/known/root");
 }
 
-TEST_F(Discovery, OfADeepTreeCostsNoStack) {
+TEST_F(WorkingCopyDiscovery, OfADeepTreeCostsNoStack) {
   constexpr int kLevels = 5000;
   AddChain(assembly_, folder_.Host("plain"), kLevels);
   WriteCVSFolder(folder_ / "proj", "/cvs/root", "proj");
@@ -275,7 +275,7 @@ TEST_F(Discovery, OfADeepTreeCostsNoStack) {
   EXPECT_EQ(Text(Found("p0").CVSRoot), "/cvs/root");
 }
 
-TEST_F(Discovery, TellsACVSWorkingCopyByItsRepositoryFile) {
+TEST_F(WorkingCopyDiscovery, TellsACVSWorkingCopyByItsRepositoryFile) {
   WriteFile(folder_ / "w/CVS/Repository", "");
   zrk::cvs::CVSFolders folders;
   EXPECT_TRUE(folders.Hold((HostFolder("w") + "a").c_str()));

@@ -5,7 +5,7 @@
 #include "support/CVSFolder.h"
 
 // Administrative files and paths are both in UTF-8.
-TEST(DiscoveryInUTF8, FindsAWorkingCopyWhoseNamesAreNotASCII) {
+TEST(WorkingCopyDiscoveryInUTF8, FindsAWorkingCopyWhoseNamesAreNotASCII) {
   TemporaryFolder folder;
   Assembly assembly(folder);
   WriteCVSFolder(folder / "w\xC3\xB6/pr\xC3\xB6j", "/cvs/r\xC3\xB6\xC3\xB6t", "pr\xC3\xB6j");

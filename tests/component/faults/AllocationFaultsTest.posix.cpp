@@ -78,7 +78,7 @@ TEST_P(EveryAllocation, ThatFailsDuringAnOperationLeavesNothingBehind) {
   EXPECT_LT(allocations, kMostAllocations);
 }
 
-TEST(AFailedAllocation, DuringARefreshDoesNotKeepTheNextFromBeingComplete) {
+TEST(AllocationFaults, DuringARefreshDoesNotKeepTheNextFromBeingComplete) {
   for (const Operation& operation : Operations()) {
     if (!operation.Name.starts_with("RefreshStatus")) continue;
     bool failed = true;

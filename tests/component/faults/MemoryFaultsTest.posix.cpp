@@ -97,7 +97,7 @@ constexpr Call kCalls[] = {
     {"MakingAManagerOfSVN", Kind::SVN, MakeManager, E_FAIL},
 };
 
-class EveryCall : public testing::TestWithParam<Call> {
+class MemoryFaults : public testing::TestWithParam<Call> {
 protected:
   // False when the call was over before the memory ran out.
   static bool MakeWithFailureAfter(int successes) {
@@ -128,13 +128,13 @@ std::string CallName(const testing::TestParamInfo<Call>& info) {
 
 }  // namespace
 
-TEST_P(EveryCall, EndsWhenTheMemoryRunsOut) {
+TEST_P(MemoryFaults, EndsWhenTheMemoryRunsOut) {
   EXPECT_TRUE(MakeWithFailureAfter(0));
   // Every allocation at first, and then some, to the end of the call.
   for (int successes = 1; MakeWithFailureAfter(successes); successes += 1 + successes / 8) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(, EveryCall, testing::ValuesIn(kCalls), CallName);
+INSTANTIATE_TEST_SUITE_P(, MemoryFaults, testing::ValuesIn(kCalls), CallName);
 
 }  // namespace faults

@@ -83,9 +83,9 @@ std::optional<int> RunBegunByRead(const std::vector<int>& reads, int number) {
   return std::nullopt;
 }
 
-class EveryFault : public testing::TestWithParam<std::tuple<Operation, NamedCall>> {
+class SystemFaults : public testing::TestWithParam<std::tuple<Operation, NamedCall>> {
 protected:
-  ~EveryFault() override { standin::FailWindowsCall(call_, -1); }
+  ~SystemFaults() override { standin::FailWindowsCall(call_, -1); }
 
   // False when the operation was over before the call could fail.
   bool PerformWithFailureAfter(int successes) {
@@ -167,13 +167,13 @@ protected:
   int closingsTold_ = 0;
 };
 
-std::string FaultName(const testing::TestParamInfo<EveryFault::ParamType>& info) {
+std::string FaultName(const testing::TestParamInfo<SystemFaults::ParamType>& info) {
   return std::get<0>(info.param).Name + "_" + std::get<1>(info.param).Name;
 }
 
 }  // namespace
 
-TEST_P(EveryFault, EndsWithThePromisedResultAndMessagesAndLeavesNothingBehind) {
+TEST_P(SystemFaults, EndsWithThePromisedResultAndMessagesAndLeavesNothingBehind) {
   constexpr int kMostUses = 200;
   const long objects = standin::LiveObjectCount();
   int uses = 0;
@@ -188,7 +188,7 @@ TEST_P(EveryFault, EndsWithThePromisedResultAndMessagesAndLeavesNothingBehind) {
   EXPECT_EQ(closingsTold_, call_ == WindowsCall::CloseHandle ? operation_.Runs() : 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(, EveryFault,
+INSTANTIATE_TEST_SUITE_P(, SystemFaults,
                          testing::Combine(testing::ValuesIn(Operations()), testing::ValuesIn(kWindowsCalls)),
                          FaultName);
 

@@ -11,11 +11,11 @@
 
 namespace {
 
-class ANewManager : public testing::Test, protected CVSStage {};
+class Construction : public testing::Test, protected CVSStage {};
 
 }  // namespace
 
-TEST_F(ANewManager, KnowsTheCVSWorkingCopyOfItsProduct) {
+TEST_F(Construction, KnowsTheCVSWorkingCopyOfItsProduct) {
   Products.Add("car", "proj/car");
   const ZRKECVSManager manager(Product("car"));
   EXPECT_EQ(Text(manager.SandboxRoot), SandboxRoot());
@@ -24,7 +24,7 @@ TEST_F(ANewManager, KnowsTheCVSWorkingCopyOfItsProduct) {
   EXPECT_EQ(Text(manager.SVNWorkingFolder), "");
 }
 
-TEST_F(ANewManager, KnowsTheSubversionFolderOfItsProduct) {
+TEST_F(Construction, KnowsTheSubversionFolderOfItsProduct) {
   WriteFile(Folder / "svn/.svn/entries", "10\n");
   Products.Add("car", "svn/car");
   const ZRKECVSManager manager(Product("car"));
@@ -33,7 +33,7 @@ TEST_F(ANewManager, KnowsTheSubversionFolderOfItsProduct) {
   EXPECT_EQ(Text(manager.SandboxRoot), "");
 }
 
-TEST_F(ANewManager, KnowsNoWorkingCopyWithoutADocument) {
+TEST_F(Construction, KnowsNoWorkingCopyWithoutADocument) {
   Products.AddWithoutDocument("empty").AddNotLinkable("bare").Add("car", "proj/car");
   Products.Place("car", "lost", std::nullopt);
   for (const char* const path : {"empty", "bare", "car/lost"}) {
@@ -45,13 +45,13 @@ TEST_F(ANewManager, KnowsNoWorkingCopyWithoutADocument) {
   }
 }
 
-TEST_F(ANewManager, KnowsTheWorkingCopyOfAReferenceWhoseTestAnswersWithAPositiveCode) {
+TEST_F(Construction, KnowsTheWorkingCopyOfAReferenceWhoseTestAnswersWithAPositiveCode) {
   Products.Add("car", "proj/car");
   const CATBaseUnknown_var car = AffirmedReference::Of(Products.At("car"));
   EXPECT_EQ(Text(ZRKECVSManager(*car).SandboxRoot), SandboxRoot());
 }
 
-TEST_F(ANewManager, OfWhatIsNoProductKnowsNoWorkingCopy) {
+TEST_F(Construction, OfWhatIsNoProductKnowsNoWorkingCopy) {
   NoProduct object;
   const ZRKECVSManager manager(object);
   EXPECT_EQ(Text(manager.SandboxRoot), "");
@@ -59,7 +59,7 @@ TEST_F(ANewManager, OfWhatIsNoProductKnowsNoWorkingCopy) {
   EXPECT_EQ(Text(manager.CVSExePath), Client.HostPath("cvs.exe"));
 }
 
-TEST_F(ANewManager, HasEmptyTablesAndCounters) {
+TEST_F(Construction, HasEmptyTablesAndCounters) {
   Products.Add("car", "proj/car");
   const ZRKECVSManager manager(Product("car"));
   EXPECT_TRUE(manager.StatusBlockTable.empty());
@@ -71,12 +71,12 @@ TEST_F(ANewManager, HasEmptyTablesAndCounters) {
   EXPECT_EQ(manager.SVNTimings.Attributing, 0.0);
 }
 
-TEST_F(ANewManager, KeepsTheStandardOutputOfTheProcess) {
+TEST_F(Construction, KeepsTheStandardOutputOfTheProcess) {
   Products.Add("car", "proj/car");
   EXPECT_EQ(ZRKECVSManager(Product("car")).StandardOutput, GetStdHandle(STD_OUTPUT_HANDLE));
 }
 
-TEST_F(ANewManager, LeavesTheStandardOutputOpenWhenItEnds) {
+TEST_F(Construction, LeavesTheStandardOutputOpenWhenItEnds) {
   HANDLE read = nullptr;
   HANDLE output = nullptr;
   ASSERT_TRUE(CreatePipe(&read, &output, nullptr, 0));
@@ -89,14 +89,14 @@ TEST_F(ANewManager, LeavesTheStandardOutputOpenWhenItEnds) {
   CloseHandle(read);
 }
 
-TEST_F(ANewManager, KnowsTheStatusClass) {
+TEST_F(Construction, KnowsTheStatusClass) {
   Products.Add("car", "proj/car");
   const ZRKECVSManager manager(Product("car"));
   ASSERT_TRUE(manager.AttributeClass);
   EXPECT_EQ(Text(manager.AttributeClass->GetPackageName()), "ZRKCVS");
 }
 
-TEST_F(ANewManager, DoesWithoutTheStatusClass) {
+TEST_F(Construction, DoesWithoutTheStatusClass) {
   Products.Add("car", "proj/car");
   standin::InstallAttributeDictionary({{"OTHER", {"Status"}}});
   EXPECT_FALSE(ZRKECVSManager(Product("car")).AttributeClass);
@@ -107,14 +107,14 @@ TEST_F(ANewManager, DoesWithoutTheStatusClass) {
   EXPECT_EQ(Text(manager.CVSExePath), Client.HostPath("cvs.exe"));
 }
 
-TEST_F(ANewManager, KnowsBothClients) {
+TEST_F(Construction, KnowsBothClients) {
   Products.Add("car", "proj/car");
   const ZRKECVSManager manager(Product("car"));
   EXPECT_EQ(Text(manager.CVSExePath), Client.HostPath("cvs.exe"));
   EXPECT_EQ(Text(manager.SVNExePath), Client.HostPath("svn.exe"));
 }
 
-TEST_F(ANewManager, RunsNothingAndTellsNothing) {
+TEST_F(Construction, RunsNothingAndTellsNothing) {
   Products.Add("car", "proj/car");
   const DebugMessages messages;
   const DialogRecorder dialogs;
@@ -124,7 +124,7 @@ TEST_F(ANewManager, RunsNothingAndTellsNothing) {
   EXPECT_TRUE(dialogs.Requests().empty());
 }
 
-TEST(ANewManagerWithoutClients, KnowsNoneAndTellsNothing) {
+TEST(ConstructionWithoutClients, KnowsNoneAndTellsNothing) {
   CVSStage stage(InstalledClients::None);
   stage.Products.Add("car", "proj/car");
   const DialogRecorder dialogs;

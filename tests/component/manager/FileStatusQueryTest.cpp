@@ -16,9 +16,11 @@ using testing::ElementsAre;
 namespace {
 
 // Through the interface, as the host calls it.
-class AQuery : public testing::Test, protected CVSStage {
+class FileStatusQuery : public testing::Test, protected CVSStage {
 protected:
-  AQuery() { Products.Add("car", "proj/car model").Add("axle", "proj/axle").Place("car", "a", "axle"); }
+  FileStatusQuery() {
+    Products.Add("car", "proj/car model").Add("axle", "proj/axle").Place("car", "a", "axle");
+  }
 
   ZRKCVSStatus Asked(const CATBaseUnknown_var& product, const std::string& managerOf = "car") {
     ZRKCVSStatus record;
@@ -35,7 +37,7 @@ protected:
 
 }  // namespace
 
-TEST_F(AQuery, FillsTheRecordFromTheReport) {
+TEST_F(FileStatusQuery, FillsTheRecordFromTheReport) {
   Client.When("status -v").Out(zrk::sample::StatusBlock("proj/car model", "1.5", "Needs Patch"));
   const ZRKCVSStatus record = Asked(Products.At("car"));
   EXPECT_EQ(Text(record.File), "carmodel\t");
@@ -45,7 +47,7 @@ TEST_F(AQuery, FillsTheRecordFromTheReport) {
   EXPECT_EQ(Text(record.ExistingTags), "release-2                (revision: 1.4)");
 }
 
-TEST_F(AQuery, RunsTheClientOnceInTheWorkingFolder) {
+TEST_F(FileStatusQuery, RunsTheClientOnceInTheWorkingFolder) {
   Asked(Products.At("car"));
   ASSERT_EQ(Client.Runs().size(), 1u);
   EXPECT_EQ(Client.Runs()[0].Program, "cvs.exe");
@@ -53,34 +55,34 @@ TEST_F(AQuery, RunsTheClientOnceInTheWorkingFolder) {
   EXPECT_EQ(Client.Runs()[0].Arguments, Arguments({"status", "-v", "proj\\car model"}));
 }
 
-TEST_F(AQuery, IsAboutTheProductGivenNotTheManagersOwn) {
+TEST_F(FileStatusQuery, IsAboutTheProductGivenNotTheManagersOwn) {
   Asked(Products.At("axle"), "car");
   ASSERT_EQ(Client.Runs().size(), 1u);
   EXPECT_EQ(Client.Runs()[0].Arguments, Arguments({"status", "-v", "proj\\axle"}));
 }
 
-TEST_F(AQuery, IsAboutAReferenceAlsoWhenItsTestAnswersWithAPositiveCode) {
+TEST_F(FileStatusQuery, IsAboutAReferenceAlsoWhenItsTestAnswersWithAPositiveCode) {
   Asked(AffirmedReference::Of(Products.At("axle")));
   ASSERT_EQ(Client.Runs().size(), 1u);
   EXPECT_EQ(Client.Runs()[0].Arguments, Arguments({"status", "-v", "proj\\axle"}));
 }
 
-TEST_F(AQuery, AsksForAFileOutsideTheWorkingFolderByItsFullPath) {
+TEST_F(FileStatusQuery, AsksForAFileOutsideTheWorkingFolderByItsFullPath) {
   Products.Add({.Name = "far", .Document = "\\far\\away"});
   Asked(Products.At("far"));
   EXPECT_EQ(Client.Runs().at(0).Arguments, Arguments({"status", "-v", "\\far\\away"}));
 }
 
-TEST_F(AQuery, LeavesTheRecordAsItWasWhenTheClientSaysNothing) {
+TEST_F(FileStatusQuery, LeavesTheRecordAsItWasWhenTheClientSaysNothing) {
   EXPECT_EQ(Text(Asked(Products.At("car")).Status), "as it was");
 }
 
-TEST_F(AQuery, SkipsTagLinesOfOneCharacterAndTakesTheFirstBehind) {
+TEST_F(FileStatusQuery, SkipsTagLinesOfOneCharacterAndTakesTheFirstBehind) {
   Client.When("status -v").Out("Existing Tags:\r\n\r\n\tone\r\n\ttwo\r\n");
   EXPECT_EQ(Text(Asked(Products.At("car")).ExistingTags), "one");
 }
 
-TEST_F(AQuery, AppendsTheTagToWhatIsKnown) {
+TEST_F(FileStatusQuery, AppendsTheTagToWhatIsKnown) {
   Client.When("status -v").Out("Existing Tags:\r\n\tone\r\n");
   ZRKECVSManager manager(Product("car"));
   ZRKCVSStatus record;
@@ -89,27 +91,27 @@ TEST_F(AQuery, AppendsTheTagToWhatIsKnown) {
   EXPECT_EQ(Text(record.ExistingTags), "oneone");
 }
 
-TEST_F(AQuery, OfAnInstanceRunsNothing) {
+TEST_F(FileStatusQuery, OfAnInstanceRunsNothing) {
   ExpectNothingRun(Products.At("car/a"));
 }
 
-TEST_F(AQuery, OfAnInstanceWithoutItsReferenceRunsNothing) {
+TEST_F(FileStatusQuery, OfAnInstanceWithoutItsReferenceRunsNothing) {
   Products.Place("car", "lost", std::nullopt);
   ExpectNothingRun(Products.At("car/lost"));
 }
 
-TEST_F(AQuery, OfAProductWithoutAStoredDocumentRunsNothing) {
+TEST_F(FileStatusQuery, OfAProductWithoutAStoredDocumentRunsNothing) {
   Products.AddWithoutDocument("empty").AddNotLinkable("bare").Add({.Name = "new", .Document = ""});
   ExpectNothingRun(Products.At("empty"));
   ExpectNothingRun(Products.At("bare"));
   ExpectNothingRun(Products.At("new"));
 }
 
-TEST_F(AQuery, OfNothingRunsNothing) {
+TEST_F(FileStatusQuery, OfNothingRunsNothing) {
   ExpectNothingRun(nullptr);
 }
 
-TEST_F(AQuery, NeitherFilesNorWritesNorRedraws) {
+TEST_F(FileStatusQuery, NeitherFilesNorWritesNorRedraws) {
   Client.When("status -v").Out(zrk::sample::StatusBlock("proj/car model", "1.5"));
   ZRKECVSManager manager(Product("car"));
   const RedrawnProducts redrawn;
@@ -120,13 +122,13 @@ TEST_F(AQuery, NeitherFilesNorWritesNorRedraws) {
   EXPECT_TRUE(redrawn.Paths().empty());
 }
 
-TEST_F(AQuery, NeedsNoAttributeClass) {
+TEST_F(FileStatusQuery, NeedsNoAttributeClass) {
   standin::RemoveAttributeDictionary();
   Asked(Products.At("car"));
   EXPECT_EQ(Client.Runs().size(), 1u);
 }
 
-TEST_F(AQuery, OfAManagerWithoutAWorkingCopyCannotStartTheClient) {
+TEST_F(FileStatusQuery, OfAManagerWithoutAWorkingCopyCannotStartTheClient) {
   Products.AddWithoutDocument("empty");
   const DebugMessages messages;
   EXPECT_EQ(Text(Asked(Products.At("car"), "empty").Status), "as it was");
@@ -134,7 +136,7 @@ TEST_F(AQuery, OfAManagerWithoutAWorkingCopyCannotStartTheClient) {
   EXPECT_THAT(messages.All(), ElementsAre(L"CreateProcess failed\n", L"Create process failed with"));
 }
 
-TEST_F(AQuery, InASubversionWorkingCopyCannotStartTheClient) {
+TEST_F(FileStatusQuery, InASubversionWorkingCopyCannotStartTheClient) {
   WriteFile(Folder / "svn/.svn/entries", "10\n");
   Products.Add("part", "svn/part");
   const DebugMessages messages;
@@ -143,7 +145,7 @@ TEST_F(AQuery, InASubversionWorkingCopyCannotStartTheClient) {
   EXPECT_THAT(messages.All(), ElementsAre(L"CreateProcess failed\n", L"Create process failed with"));
 }
 
-TEST(AQueryWithoutCVS, DoesNothingAndShowsNoNotice) {
+TEST(FileStatusQueryWithoutCVS, DoesNothingAndShowsNoNotice) {
   CVSStage stage(InstalledClients::None);
   stage.Products.Add("car", "proj/car");
   const DialogRecorder dialogs;

@@ -41,9 +41,9 @@ std::ostream& operator<<(std::ostream& stream, const Outcome& outcome) {
 // "car" and "bus" in a CVS working copy, "wheel" in a Subversion one with text entries and "bolt" in
 // one with a database, with clients that answer all commands; the repository of the last is out of reach for
 // a refresh. What the first run of a process opens for good is open from here on.
-class OperationsOfTheInterface : public testing::Test, protected CVSStage {
+class HandlesOfTheOperations : public testing::Test, protected CVSStage {
 protected:
-  OperationsOfTheInterface() {
+  HandlesOfTheOperations() {
     using namespace entries;
     Products.Add("car", "proj/car").Add("bus", "proj/bus").Add("wheel", "wc/wheel");
     Products.Add("bolt", "db/bolt");
@@ -129,10 +129,10 @@ protected:
 
 }  // namespace
 
-TEST_F(OperationsOfTheInterface, LeaveNoHandleOpen) {
+TEST_F(HandlesOfTheOperations, LeaveNoHandleOpen) {
   ExpectSameHandles(1);
 }
 
-TEST_F(OperationsOfTheInterface, AHundredOfThemLeaveTheHandlesOfTheProcessAsTheyWere) {
+TEST_F(HandlesOfTheOperations, AHundredOfThemLeaveTheHandlesOfTheProcessAsTheyWere) {
   ExpectSameHandles(10);
 }

@@ -15,14 +15,14 @@ using zrk::sample::StatusBlock;
 namespace {
 
 // Through the interface, as the host calls it.
-class ARefreshsAttributes : public testing::Test, protected CVSStage {
+class RefreshAttributes : public testing::Test, protected CVSStage {
 protected:
   const std::string tag_ = "release-2                (revision: 1.4)";
 };
 
 }  // namespace
 
-TEST_F(ARefreshsAttributes, TellWhoMayEditWhat) {
+TEST_F(RefreshAttributes, TellWhoMayEditWhat) {
   Products.Add("car", "proj/car").Add("axle", "proj/axle").Add("wheel", "proj/wheel");
   Products.Place("car", "a", "axle").Place("car", "w", "wheel");
   SetReadOnly(Folder / "proj/axle");
@@ -45,7 +45,7 @@ TEST_F(ARefreshsAttributes, TellWhoMayEditWhat) {
   EXPECT_EQ(OutputText(output), "");
 }
 
-TEST_F(ARefreshsAttributes, StayWhereTheClientSaysNothing) {
+TEST_F(RefreshAttributes, StayWhereTheClientSaysNothing) {
   Products.Add("car", "proj/car");
   const StatusAttributes old{"1.1", "Edit", "tag", ""};
   WriteStatusAttributes(Products.At("car"), old);
@@ -56,7 +56,7 @@ TEST_F(ARefreshsAttributes, StayWhereTheClientSaysNothing) {
   EXPECT_EQ(OutputText(output), "File " + Folder.Host("proj/car") + " not found!\n");
 }
 
-TEST_F(ARefreshsAttributes, AreThoseOfTheRootGivenNotOfTheManagersProduct) {
+TEST_F(RefreshAttributes, AreThoseOfTheRootGivenNotOfTheManagersProduct) {
   Products.Add("car", "proj/car").Add("axle", "proj/axle");
   Client.When("status -v").Out(StatusBlock("proj/axle", "1.2"));
   const ZRKICVSManager_var manager(Products.At("car"));
@@ -65,7 +65,7 @@ TEST_F(ARefreshsAttributes, AreThoseOfTheRootGivenNotOfTheManagersProduct) {
   EXPECT_EQ(ReadStatusAttributes(Products.At("axle")), (StatusAttributes{"1.2", "Edit", tag_, ""}));
 }
 
-TEST_F(ARefreshsAttributes, AreTakenOffWhereTheReferenceIsNotLoadedWithOneRedraw) {
+TEST_F(RefreshAttributes, AreTakenOffWhereTheReferenceIsNotLoadedWithOneRedraw) {
   Products.Add("car", "proj/car").Place("car", "lost", std::nullopt);
   WriteStatusAttributes(Products.At("car/lost"), {"1.1", "Edit", "", ""});
   const RedrawnProducts redrawn;
@@ -76,7 +76,7 @@ TEST_F(ARefreshsAttributes, AreTakenOffWhereTheReferenceIsNotLoadedWithOneRedraw
   EXPECT_THAT(redrawn.Paths(), ElementsAre("car/lost", "car"));
 }
 
-TEST_F(ARefreshsAttributes, ReachTheBottomOfADeepTree) {
+TEST_F(RefreshAttributes, ReachTheBottomOfADeepTree) {
   constexpr int kLevels = 5000;
   AddChain(Products, Folder.Host("proj"), kLevels);
   std::string report;

@@ -10,7 +10,7 @@ std::wstring Wide(const std::string& text) {
   return CATUnicodeString(text.c_str()).ConvertToWideChar();
 }
 
-class ARefreshsCommandLines : public testing::Test, protected CVSStage {
+class RefreshCommandLines : public testing::Test, protected CVSStage {
 protected:
   void ExpectLaunch(const standin::Launch& launch, const std::string& tail) {
     EXPECT_EQ(launch.Program, Wide(Client.HostPath("cvs.exe")));
@@ -25,7 +25,7 @@ protected:
 
 }  // namespace
 
-TEST_F(ARefreshsCommandLines, HaveTwoBlanksBeforeTheFirstFile) {
+TEST_F(RefreshCommandLines, HaveTwoBlanksBeforeTheFirstFile) {
   Products.Add("car", "proj/car").Add("axle", "proj/a b").Place("car", "a", "axle");
   ZRKECVSManager manager(Product("car"));
   manager.RefreshStatus(Root("car"));
@@ -34,7 +34,7 @@ TEST_F(ARefreshsCommandLines, HaveTwoBlanksBeforeTheFirstFile) {
   ExpectLaunch(launches_.All()[1], " -n edit  \"proj\\car\" \"proj\\a b\"");
 }
 
-TEST_F(ARefreshsCommandLines, WithoutAFileKeepTheirClosingBlank) {
+TEST_F(RefreshCommandLines, WithoutAFileKeepTheirClosingBlank) {
   Products.Add("car", "proj/car").Add("other", "elsewhere/x");
   ZRKECVSManager manager(Product("car"));
   manager.RefreshStatus(Root("other"));
@@ -43,7 +43,7 @@ TEST_F(ARefreshsCommandLines, WithoutAFileKeepTheirClosingBlank) {
   ExpectLaunch(launches_.All()[1], " -n edit ");
 }
 
-TEST_F(ARefreshsCommandLines, OfAQueryHaveOneBlankBeforeTheFile) {
+TEST_F(RefreshCommandLines, OfAQueryHaveOneBlankBeforeTheFile) {
   Products.Add("car", "proj/car");
   ZRKECVSManager manager(Product("car"));
   ZRKCVSStatus record;

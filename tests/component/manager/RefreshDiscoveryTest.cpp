@@ -9,9 +9,9 @@
 
 namespace {
 
-class ARefreshsWorkingCopy : public testing::Test, protected CVSStage {
+class RefreshDiscovery : public testing::Test, protected CVSStage {
 protected:
-  ARefreshsWorkingCopy() {
+  RefreshDiscovery() {
     WriteCVSFolder(Folder / "second/model", "/second/root", "model");
     Products.Add("car", "proj/car").Add("model", "second/model/part").AddWithoutDocument("empty");
   }
@@ -21,7 +21,7 @@ protected:
 
 }  // namespace
 
-TEST_F(ARefreshsWorkingCopy, IsFoundFromTheRootWhenTheManagerKnowsNone) {
+TEST_F(RefreshDiscovery, IsFoundFromTheRootWhenTheManagerKnowsNone) {
   ZRKECVSManager manager(Product("empty"));
   manager.RefreshStatus(Root("car"));
   EXPECT_EQ(Text(manager.SandboxRoot), SandboxRoot());
@@ -30,7 +30,7 @@ TEST_F(ARefreshsWorkingCopy, IsFoundFromTheRootWhenTheManagerKnowsNone) {
   EXPECT_EQ(Client.Runs()[0].Arguments, Arguments({"status", "-v", "proj\\car"}));
 }
 
-TEST_F(ARefreshsWorkingCopy, IsNotLookedForAgainWithAnotherRoot) {
+TEST_F(RefreshDiscovery, IsNotLookedForAgainWithAnotherRoot) {
   ZRKECVSManager manager(Product("empty"));
   manager.RefreshStatus(Root("car"));
   Client.ClearRuns();
@@ -42,7 +42,7 @@ TEST_F(ARefreshsWorkingCopy, IsNotLookedForAgainWithAnotherRoot) {
   EXPECT_EQ(Client.Runs()[0].Folder, Folder.Host());
 }
 
-TEST_F(ARefreshsWorkingCopy, IsThatOfTheManagersProductWhenItHasOne) {
+TEST_F(RefreshDiscovery, IsThatOfTheManagersProductWhenItHasOne) {
   ZRKECVSManager manager(Product("car"));
   manager.RefreshStatus(Root("model"));
   EXPECT_EQ(Text(manager.SandboxRoot), SandboxRoot());
@@ -50,7 +50,7 @@ TEST_F(ARefreshsWorkingCopy, IsThatOfTheManagersProductWhenItHasOne) {
   EXPECT_EQ(Client.Runs()[0].Arguments, Arguments({"status", "-v", "second\\model\\part"}));
 }
 
-TEST_F(ARefreshsWorkingCopy, IsLookedForWhenItsRootAloneIsMissing) {
+TEST_F(RefreshDiscovery, IsLookedForWhenItsRootAloneIsMissing) {
   std::filesystem::remove(Folder / "proj/CVS/Root");
   ZRKECVSManager manager(Product("car"));
   EXPECT_EQ(Text(manager.SandboxRoot), SandboxRoot());
@@ -60,7 +60,7 @@ TEST_F(ARefreshsWorkingCopy, IsLookedForWhenItsRootAloneIsMissing) {
   EXPECT_EQ(Client.Runs().size(), 2u);
 }
 
-TEST_F(ARefreshsWorkingCopy, IsKeptAsFarAsItIsKnownWhenTheRootTellsNothing) {
+TEST_F(RefreshDiscovery, IsKeptAsFarAsItIsKnownWhenTheRootTellsNothing) {
   std::filesystem::remove(Folder / "proj/CVS/Root");
   ZRKECVSManager manager(Product("car"));
   manager.SVNWorkingFolder = "\\svn";
@@ -75,14 +75,14 @@ TEST_F(ARefreshsWorkingCopy, IsKeptAsFarAsItIsKnownWhenTheRootTellsNothing) {
   EXPECT_EQ(Text(manager.CVSRoot), "/known/root");
 }
 
-TEST_F(ARefreshsWorkingCopy, StaysSubversionsWhenTheProductTellsNothing) {
+TEST_F(RefreshDiscovery, StaysSubversionsWhenTheProductTellsNothing) {
   ZRKECVSManager manager(Product("car"));
   manager.IsSVN = true;
   manager.DiscoverWorkingCopy(Products.At("empty"));
   EXPECT_TRUE(manager.IsSVN);
 }
 
-TEST_F(ARefreshsWorkingCopy, IsLookedForBeforeTheAttributeClassIsAskedFor) {
+TEST_F(RefreshDiscovery, IsLookedForBeforeTheAttributeClassIsAskedFor) {
   standin::RemoveAttributeDictionary();
   ZRKECVSManager manager(Product("empty"));
   manager.RefreshStatus(Root("car"));
@@ -90,7 +90,7 @@ TEST_F(ARefreshsWorkingCopy, IsLookedForBeforeTheAttributeClassIsAskedFor) {
   EXPECT_TRUE(Client.Runs().empty());
 }
 
-TEST_F(ARefreshsWorkingCopy, ThatIsSubversionsEndsThisCallAndIsUsedByTheNext) {
+TEST_F(RefreshDiscovery, ThatIsSubversionsEndsThisCallAndIsUsedByTheNext) {
   Products.Add("late", "later/late");
   ZRKECVSManager manager(Product("late"));
   EXPECT_FALSE(manager.IsSVN);

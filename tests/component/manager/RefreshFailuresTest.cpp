@@ -14,9 +14,9 @@ using testing::Pair;
 namespace {
 
 // A tree of two batches: "car" alone, and a file with a long name.
-class ARefreshWithAFailure : public testing::Test, protected CVSStage {
+class RefreshFailures : public testing::Test, protected CVSStage {
 protected:
-  ARefreshWithAFailure() {
+  RefreshFailures() {
     Products.Add("car", "proj/car");
     Products.Add({.Name = "long", .Document = Folder.Host("proj") + "\\" + std::string(31'990, 'a')});
     Products.Place("car", "l", "long");
@@ -27,7 +27,7 @@ protected:
     Client.When("-n edit").Out("proj/second\tbert\r\n");
   }
 
-  ~ARefreshWithAFailure() override {
+  ~RefreshFailures() override {
     for (const WindowsCall call :
          {WindowsCall::CreatePipe, WindowsCall::CreateProcess, WindowsCall::ReadFile}) {
       standin::FailWindowsCall(call, -1);
@@ -54,13 +54,13 @@ protected:
 
 }  // namespace
 
-TEST_F(ARefreshWithAFailure, FilesAllWhenThereIsNone) {
+TEST_F(RefreshFailures, FilesAllWhenThereIsNone) {
   Refresh(WindowsCall::CreateProcess, 100);
   EXPECT_THAT(FiledKeys(manager_->StatusBlockTable), ElementsAre("proj\\first", "proj\\second"));
   EXPECT_THAT(FiledKeys(manager_->EditTable), ElementsAre("proj\\first", "proj\\second"));
 }
 
-TEST_F(ARefreshWithAFailure, OfTheFirstRunFilesWhatTheOthersSay) {
+TEST_F(RefreshFailures, OfTheFirstRunFilesWhatTheOthersSay) {
   for (const WindowsCall call :
        {WindowsCall::CreatePipe, WindowsCall::CreateProcess, WindowsCall::ReadFile}) {
     Refresh(call, 0);
@@ -69,13 +69,13 @@ TEST_F(ARefreshWithAFailure, OfTheFirstRunFilesWhatTheOthersSay) {
   }
 }
 
-TEST_F(ARefreshWithAFailure, OfTheEditPassFilesWhatTheOthersSay) {
+TEST_F(RefreshFailures, OfTheEditPassFilesWhatTheOthersSay) {
   Refresh(WindowsCall::CreateProcess, 3);
   EXPECT_THAT(FiledKeys(manager_->StatusBlockTable), ElementsAre("proj\\first", "proj\\second"));
   EXPECT_THAT(FiledKeys(manager_->EditTable), ElementsAre("proj\\first"));
 }
 
-TEST_F(ARefreshWithAFailure, IsToldOnTheDebuggerChannelAndTheTimesAllTheSame) {
+TEST_F(RefreshFailures, IsToldOnTheDebuggerChannelAndTheTimesAllTheSame) {
   Refresh(WindowsCall::CreateProcess, 0);
   ASSERT_EQ(messages_.All().size(), 5u);
   EXPECT_EQ(messages_.All()[0], L"CreateProcess failed\n");

@@ -36,14 +36,14 @@ private:
   const CapturedOutput output_;
 };
 
-class ARefreshStops : public testing::Test, protected CVSStage {
+class RefreshPreconditions : public testing::Test, protected CVSStage {
 protected:
   const DialogRecorder dialogs_;
 };
 
 }  // namespace
 
-TEST_F(ARefreshStops, WithoutARoot) {
+TEST_F(RefreshPreconditions, WithoutARoot) {
   Products.Add("car", "proj/car");
   ZRKECVSManager manager(Product("car"));
   const NothingDone nothing(Client, manager);
@@ -52,7 +52,7 @@ TEST_F(ARefreshStops, WithoutARoot) {
   EXPECT_TRUE(dialogs_.Requests().empty());
 }
 
-TEST_F(ARefreshStops, WithoutARootAndWithoutAWorkingCopy) {
+TEST_F(RefreshPreconditions, WithoutARootAndWithoutAWorkingCopy) {
   Products.AddWithoutDocument("empty");
   ZRKECVSManager manager(Product("empty"));
   const NothingDone nothing(Client, manager);
@@ -60,7 +60,7 @@ TEST_F(ARefreshStops, WithoutARootAndWithoutAWorkingCopy) {
   nothing.Expect();
 }
 
-TEST_F(ARefreshStops, WithoutAnAttributeClass) {
+TEST_F(RefreshPreconditions, WithoutAnAttributeClass) {
   standin::RemoveAttributeDictionary();
   Products.Add("car", "proj/car");
   ZRKECVSManager manager(Product("car"));
@@ -69,7 +69,7 @@ TEST_F(ARefreshStops, WithoutAnAttributeClass) {
   nothing.Expect();
 }
 
-TEST_F(ARefreshStops, WithoutAWorkingCopy) {
+TEST_F(RefreshPreconditions, WithoutAWorkingCopy) {
   Products.Add("car", "elsewhere/car");
   ZRKECVSManager manager(Product("car"));
   const NothingDone nothing(Client, manager);
@@ -77,7 +77,7 @@ TEST_F(ARefreshStops, WithoutAWorkingCopy) {
   nothing.Expect();
 }
 
-TEST_F(ARefreshStops, WhereTheRepositoryPathIsNotThatOfTheFolder) {
+TEST_F(RefreshPreconditions, WhereTheRepositoryPathIsNotThatOfTheFolder) {
   WriteCVSFolder(Folder / "moved", zrk::sample::kCVSRoot, "another/name");
   Products.Add("car", "moved/car");
   ZRKECVSManager manager(Product("car"));
@@ -86,7 +86,7 @@ TEST_F(ARefreshStops, WhereTheRepositoryPathIsNotThatOfTheFolder) {
   nothing.Expect();
 }
 
-TEST_F(ARefreshStops, WithoutARootFile) {
+TEST_F(RefreshPreconditions, WithoutARootFile) {
   WriteFile(Folder / "rootless/CVS/Repository", "rootless\n");
   Products.Add("car", "rootless/car");
   ZRKECVSManager manager(Product("car"));
@@ -96,7 +96,7 @@ TEST_F(ARefreshStops, WithoutARootFile) {
   EXPECT_EQ(Text(manager.SandboxRoot), SandboxRoot());
 }
 
-TEST(ARefreshWithoutCVS, ShowsTheNoticeAndDoesNothing) {
+TEST(RefreshWithoutCVS, ShowsTheNoticeAndDoesNothing) {
   CVSStage stage(InstalledClients::SVNOnly);
   stage.Products.Add("car", "proj/car");
   ZRKECVSManager manager(stage.Product("car"));
@@ -109,7 +109,7 @@ TEST(ARefreshWithoutCVS, ShowsTheNoticeAndDoesNothing) {
   EXPECT_EQ(dialogs.Requests()[0].Title, "Version Control");
 }
 
-TEST(ARefreshWithoutCVS, DoesNotEvenLookForTheWorkingCopy) {
+TEST(RefreshWithoutCVS, DoesNotEvenLookForTheWorkingCopy) {
   CVSStage stage(InstalledClients::None);
   stage.Products.AddWithoutDocument("empty").Add("car", "proj/car");
   ZRKECVSManager manager(stage.Product("empty"));
@@ -117,7 +117,7 @@ TEST(ARefreshWithoutCVS, DoesNotEvenLookForTheWorkingCopy) {
   EXPECT_EQ(Text(manager.SandboxRoot), "");
 }
 
-TEST(ARefreshWithoutCVS, ShowsTheNoticeWithoutARootToo) {
+TEST(RefreshWithoutCVS, ShowsTheNoticeWithoutARootToo) {
   CVSStage stage(InstalledClients::None);
   stage.Products.Add("car", "proj/car");
   ZRKECVSManager manager(stage.Product("car"));

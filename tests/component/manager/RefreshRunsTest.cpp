@@ -9,7 +9,7 @@ using testing::ElementsAre;
 
 namespace {
 
-class ARefresh : public testing::Test, protected CVSStage {
+class RefreshRuns : public testing::Test, protected CVSStage {
 protected:
   // The arguments of all runs that refreshing the tree takes.
   std::vector<std::vector<std::string>> Runs(const std::string& root) {
@@ -30,13 +30,13 @@ protected:
 
 }  // namespace
 
-TEST_F(ARefresh, OfOneFileAsksForItsStatusAndThenForItsEditors) {
+TEST_F(RefreshRuns, OfOneFileAsksForItsStatusAndThenForItsEditors) {
   Products.Add("car", "proj/car model");
   EXPECT_THAT(Runs("car"), ElementsAre(Arguments({"status", "-v", "proj\\car model"}),
                                        Arguments({"-n", "edit", "proj\\car model"})));
 }
 
-TEST_F(ARefresh, AsksForAllFilesOfTheTreeAtOnce) {
+TEST_F(RefreshRuns, AsksForAllFilesOfTheTreeAtOnce) {
   Products.Add("car", "proj/car").Add("axle", "proj/axle").Add("other", "elsewhere/x");
   WriteCVSFolder(Folder / "proj/sub", zrk::sample::kCVSRoot, "proj/sub");
   Products.Add("wheel", "proj/sub/wheel").Place("other", "w", "wheel");
@@ -49,7 +49,7 @@ TEST_F(ARefresh, AsksForAllFilesOfTheTreeAtOnce) {
   EXPECT_THAT(Runs("car"), ElementsAre(Arguments(status), Arguments(edit)));
 }
 
-TEST_F(ARefresh, WithoutAnyFileOfTheClientAsksForAllBelowTheWorkingFolder) {
+TEST_F(RefreshRuns, WithoutAnyFileOfTheClientAsksForAllBelowTheWorkingFolder) {
   Products.Add("car", "elsewhere/car").Add("axle", "proj/axle").Place("car", "a", "axle");
   Products.Add("other", "elsewhere/other");
   ZRKECVSManager manager(Product("car"));
@@ -62,7 +62,7 @@ TEST_F(ARefresh, WithoutAnyFileOfTheClientAsksForAllBelowTheWorkingFolder) {
   EXPECT_EQ(runs[1].Folder, Folder.Host());
 }
 
-TEST_F(ARefresh, RunsTheStatusPassOverAllBatchesBeforeTheEditPass) {
+TEST_F(RefreshRuns, RunsTheStatusPassOverAllBatchesBeforeTheEditPass) {
   // Each of the long names needs a batch of its own.
   const std::string first(20'000, 'a');
   const std::string second(20'000, 'b');
@@ -76,7 +76,7 @@ TEST_F(ARefresh, RunsTheStatusPassOverAllBatchesBeforeTheEditPass) {
                                        Arguments({"-n", "edit", "proj\\" + second})));
 }
 
-TEST_F(ARefresh, BeforeAFirstPathOf31997CharactersRunsWithoutAFile) {
+TEST_F(RefreshRuns, BeforeAFirstPathOf31997CharactersRunsWithoutAFile) {
   const std::string name(31'997 - 5, 'a');
   Products.Add({.Name = "car", .Document = Folder.Host("proj") + "\\" + name});
   EXPECT_THAT(Runs("car"),
@@ -84,14 +84,14 @@ TEST_F(ARefresh, BeforeAFirstPathOf31997CharactersRunsWithoutAFile) {
                           Arguments({"-n", "edit"}), Arguments({"-n", "edit", "proj\\" + name})));
 }
 
-TEST_F(ARefresh, WithAFirstPathOf31996CharactersRunsWithItAlone) {
+TEST_F(RefreshRuns, WithAFirstPathOf31996CharactersRunsWithItAlone) {
   const std::string name(31'996 - 5, 'a');
   Products.Add({.Name = "car", .Document = Folder.Host("proj") + "\\" + name});
   EXPECT_THAT(Runs("car"), ElementsAre(Arguments({"status", "-v", "proj\\" + name}),
                                        Arguments({"-n", "edit", "proj\\" + name})));
 }
 
-TEST_F(ARefresh, AsksAgainEveryTime) {
+TEST_F(RefreshRuns, AsksAgainEveryTime) {
   Products.Add("car", "proj/car");
   ZRKECVSManager manager(Product("car"));
   manager.RefreshStatus(Root("car"));
@@ -99,7 +99,7 @@ TEST_F(ARefresh, AsksAgainEveryTime) {
   EXPECT_EQ(Client.Runs().size(), 4u);
 }
 
-TEST_F(ARefresh, OfASubtreeAsksForThatAlone) {
+TEST_F(RefreshRuns, OfASubtreeAsksForThatAlone) {
   Products.Add("car", "proj/car").Add("axle", "proj/axle").Place("car", "a", "axle");
   ZRKECVSManager manager(Product("car"));
   const RedrawnProducts redrawn;

@@ -13,9 +13,9 @@ using zrk::sample::StatusBlock;
 
 namespace {
 
-class TheTables : public testing::Test, protected CVSStage {
+class RefreshTables : public testing::Test, protected CVSStage {
 protected:
-  TheTables() { Products.Add("car", "proj/car").Add("axle", "proj/axle").Place("car", "a", "axle"); }
+  RefreshTables() { Products.Add("car", "proj/car").Add("axle", "proj/axle").Place("car", "a", "axle"); }
 
   std::string Key(const std::string& path) { return SandboxRoot() + path; }
 
@@ -24,7 +24,7 @@ protected:
 
 }  // namespace
 
-TEST_F(TheTables, HoldBothReportsByFullLocalPath) {
+TEST_F(RefreshTables, HoldBothReportsByFullLocalPath) {
   const std::string car = StatusBlock("proj/car", "1.1");
   const std::string axle = StatusBlock("proj/axle", "1.2");
   Client.When("status -v").Out(kSeparatorLine + car + kSeparatorLine + axle);
@@ -36,14 +36,14 @@ TEST_F(TheTables, HoldBothReportsByFullLocalPath) {
   EXPECT_THAT(manager.EditTable, ElementsAre(Pair(Key("proj\\axle"), "proj/axle\nbert\nhost")));
 }
 
-TEST_F(TheTables, HoldWhatTheClientWroteToStandardErrorToo) {
+TEST_F(RefreshTables, HoldWhatTheClientWroteToStandardErrorToo) {
   Client.When("-n edit").Error("proj/axle\tbert\r\n");
   ZRKECVSManager manager(Product("car"));
   manager.RefreshStatus(Root("car"));
   EXPECT_THAT(manager.EditTable, ElementsAre(Pair(Key("proj\\axle"), "proj/axle\nbert")));
 }
 
-TEST_F(TheTables, KeepTheFirstOfTwoBlocksAndOfTwoLines) {
+TEST_F(RefreshTables, KeepTheFirstOfTwoBlocksAndOfTwoLines) {
   const std::string first = StatusBlock("proj/car", "1.1");
   Client.When("status -v").Out(first + kSeparatorLine + StatusBlock("proj/car", "1.2"));
   Client.When("-n edit").Out("proj/car\tanna\r\nproj/car\tbert\r\n");
@@ -53,7 +53,7 @@ TEST_F(TheTables, KeepTheFirstOfTwoBlocksAndOfTwoLines) {
   EXPECT_THAT(manager.EditTable, ElementsAre(Pair(Key("proj\\car"), "proj/car\nanna")));
 }
 
-TEST_F(TheTables, OfStatusBlocksIsEmptyWhenTheFilesAreCollected) {
+TEST_F(RefreshTables, OfStatusBlocksIsEmptyWhenTheFilesAreCollected) {
   ZRKECVSManager manager(Product("car"));
   std::vector<std::size_t> blocks;
   std::vector<std::size_t> lines;
@@ -70,7 +70,7 @@ TEST_F(TheTables, OfStatusBlocksIsEmptyWhenTheFilesAreCollected) {
 }
 
 // A client stops at its question, and is not asked on; that of the next command line says all it has to.
-TEST_F(TheTables, HoldAllThatOneCommandLineReportsBehindTheQuestionOfAnother) {
+TEST_F(RefreshTables, HoldAllThatOneCommandLineReportsBehindTheQuestionOfAnother) {
   const std::string first(20'000, 'a');
   const std::string second(20'000, 'b');
   Products.Add({.Name = "one", .Document = Folder.Host("proj") + "\\" + first});
@@ -88,7 +88,7 @@ TEST_F(TheTables, HoldAllThatOneCommandLineReportsBehindTheQuestionOfAnother) {
   EXPECT_THAT(manager.EditTable, testing::Contains(Pair(Key("proj\\two"), "proj/two\nbert")));
 }
 
-TEST_F(TheTables, AreFilledAnewByEachRefresh) {
+TEST_F(RefreshTables, AreFilledAnewByEachRefresh) {
   Client.When("status -v").Once().Out(StatusBlock("proj/car", "1.1"));
   Client.When("-n edit").Once().Out("proj/car\tanna\r\n");
   Client.When("status -v").Out(StatusBlock("proj/car", "1.2"));
@@ -100,7 +100,7 @@ TEST_F(TheTables, AreFilledAnewByEachRefresh) {
   EXPECT_THAT(manager.EditTable, ElementsAre(Pair(Key("proj\\car"), "proj/car\nbert")));
 }
 
-TEST_F(TheTables, AreEmptyWhenTheClientSaysNothing) {
+TEST_F(RefreshTables, AreEmptyWhenTheClientSaysNothing) {
   ZRKECVSManager manager(Product("car"));
   manager.StatusBlockTable["old"] = "block";
   manager.EditTable["old"] = "line";
@@ -110,7 +110,7 @@ TEST_F(TheTables, AreEmptyWhenTheClientSaysNothing) {
 }
 
 // Whoever reads them while the client runs finds the blocks gone, and the lines of the refresh before.
-TEST_F(TheTables, AreEmptiedTheBlocksBeforeTheStatusRunsAndTheLinesAfterTheEditHasRun) {
+TEST_F(RefreshTables, AreEmptiedTheBlocksBeforeTheStatusRunsAndTheLinesAfterTheEditHasRun) {
   const std::string block = StatusBlock("proj/car", "1.1");
   Client.When("status -v").Out(block);
   Client.When("-n edit").Out("proj/car\tbert\r\n");
@@ -128,14 +128,14 @@ TEST_F(TheTables, AreEmptiedTheBlocksBeforeTheStatusRunsAndTheLinesAfterTheEditH
   EXPECT_THAT(manager.EditTable, ElementsAre(Pair(Key("proj\\car"), "proj/car\nbert")));
 }
 
-TEST_F(TheTables, HoldNoBlockWithoutItsLabel) {
+TEST_F(RefreshTables, HoldNoBlockWithoutItsLabel) {
   Client.When("status -v").Out("cvs status: Examining proj\r\n=====\r\n");
   ZRKECVSManager manager(Product("car"));
   manager.RefreshStatus(Root("car"));
   EXPECT_THAT(manager.StatusBlockTable, IsEmpty());
 }
 
-TEST_F(TheTables, HoldTheReportsOfAllBatches) {
+TEST_F(RefreshTables, HoldTheReportsOfAllBatches) {
   const std::string first(20'000, 'a');
   const std::string second(20'000, 'b');
   Products.Add({.Name = "one", .Document = Folder.Host("proj") + "\\" + first});

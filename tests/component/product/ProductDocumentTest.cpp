@@ -13,7 +13,7 @@ using zrk::product::ReachDocument;
 
 namespace {
 
-class AProductsDocument : public testing::Test {
+class ProductDocumentOf : public testing::Test {
 protected:
   void ExpectNone(const CATBaseUnknown_var& object, DocumentState state) {
     const ProductDocument document = ReachDocument(object);
@@ -35,43 +35,43 @@ protected:
 
 }  // namespace
 
-TEST_F(AProductsDocument, OfAReferenceIsItsOwn) {
+TEST_F(ProductDocumentOf, OfAReferenceIsItsOwn) {
   assembly_.Add("car", "car.CATProduct");
   ExpectDocument(assembly_.At("car"), folder_.Host("car.CATProduct"));
 }
 
-TEST_F(AProductsDocument, OfAnInstanceIsThatOfItsReference) {
+TEST_F(ProductDocumentOf, OfAnInstanceIsThatOfItsReference) {
   assembly_.Add("car", "car.CATProduct").Add("axle", "axle.CATPart").Place("car", "axle.1", "axle");
   ExpectDocument(assembly_.At("car/axle.1"), folder_.Host("axle.CATPart"));
 }
 
-TEST_F(AProductsDocument, IsReachedFromAnyInterfaceOfTheProduct) {
+TEST_F(ProductDocumentOf, IsReachedFromAnyInterfaceOfTheProduct) {
   assembly_.Add("car", "car.CATProduct");
   ExpectDocument(CATISpecObject_var(assembly_.At("car")), folder_.Host("car.CATProduct"));
 }
 
-TEST_F(AProductsDocument, ThatWasNeverStoredExistsWithoutAPath) {
+TEST_F(ProductDocumentOf, ThatWasNeverStoredExistsWithoutAPath) {
   assembly_.Add({.Name = "car", .Document = ""});
   ExpectDocument(assembly_.At("car"), "");
 }
 
-TEST_F(AProductsDocument, IsMissingWhereTheReferenceIsNotLoaded) {
+TEST_F(ProductDocumentOf, IsMissingWhereTheReferenceIsNotLoaded) {
   assembly_.Add("car", "car.CATProduct").Place("car", "lost.1", std::nullopt);
   ExpectNone(assembly_.At("car/lost.1"), DocumentState::NoReference);
 }
 
-TEST_F(AProductsDocument, IsMissingOnAProductThatCannotBeLinked) {
+TEST_F(ProductDocumentOf, IsMissingOnAProductThatCannotBeLinked) {
   assembly_.AddNotLinkable("car").Add("top", "top.CATProduct").Place("top", "car.1", "car");
   ExpectNone(assembly_.At("car"), DocumentState::NotLinkable);
   ExpectNone(assembly_.At("top/car.1"), DocumentState::NotLinkable);
 }
 
-TEST_F(AProductsDocument, IsMissingOnAProductWithoutOne) {
+TEST_F(ProductDocumentOf, IsMissingOnAProductWithoutOne) {
   assembly_.AddWithoutDocument("car");
   ExpectNone(assembly_.At("car"), DocumentState::NoDocument);
 }
 
-TEST_F(AProductsDocument, IsMissingOnWhatIsNoProduct) {
+TEST_F(ProductDocumentOf, IsMissingOnWhatIsNoProduct) {
   ExpectNone(nullptr, DocumentState::NotAProduct);
   ExpectNone(CATBaseUnknown_var::Adopt(new NoProduct), DocumentState::NotAProduct);
 }

@@ -30,7 +30,7 @@ private:
   CATBaseUnknown_var child_;
 };
 
-class AWalk : public testing::Test {
+class ProductTreeWalk : public testing::Test {
 protected:
   // Paths visited, in order; below `stopAt` the walk does not go.
   std::vector<std::string> Visited(const CATBaseUnknown_var& root, const std::string& stopAt = "-") {
@@ -48,7 +48,7 @@ protected:
 
 }  // namespace
 
-TEST_F(AWalk, VisitsParentsBeforeChildrenAndChildrenInOrder) {
+TEST_F(ProductTreeWalk, VisitsParentsBeforeChildrenAndChildrenInOrder) {
   assembly_.AddWithoutDocument("car").AddWithoutDocument("axle").AddWithoutDocument("wheel");
   assembly_.Place("axle", "w.2", "wheel").Place("axle", "w.1", "wheel");
   assembly_.Place("car", "b", "axle").Place("car", "a", "wheel").Place("car", "lost", std::nullopt);
@@ -56,26 +56,26 @@ TEST_F(AWalk, VisitsParentsBeforeChildrenAndChildrenInOrder) {
               ElementsAre("car", "car/b", "car/b/w.2", "car/b/w.1", "car/a", "car/lost"));
 }
 
-TEST_F(AWalk, StartsAtThePlaceItIsGiven) {
+TEST_F(ProductTreeWalk, StartsAtThePlaceItIsGiven) {
   assembly_.AddWithoutDocument("car").AddWithoutDocument("axle").AddWithoutDocument("wheel");
   assembly_.Place("axle", "w", "wheel").Place("car", "a", "axle").Place("car", "b", "axle");
   EXPECT_THAT(Visited(assembly_.At("car/b")), ElementsAre("car/b", "car/b/w"));
 }
 
-TEST_F(AWalk, DoesNotGoBelowAProductThatStopsItButOnToTheNext) {
+TEST_F(ProductTreeWalk, DoesNotGoBelowAProductThatStopsItButOnToTheNext) {
   assembly_.AddWithoutDocument("car").AddWithoutDocument("axle").AddWithoutDocument("wheel");
   assembly_.Place("axle", "w", "wheel").Place("car", "a", "axle").Place("car", "b", "axle");
   EXPECT_THAT(Visited(assembly_.At("car"), "car/a"), ElementsAre("car", "car/a", "car/b", "car/b/w"));
   EXPECT_THAT(Visited(assembly_.At("car"), "car"), ElementsAre("car"));
 }
 
-TEST_F(AWalk, SeesAChildAsASpecificationObject) {
+TEST_F(ProductTreeWalk, SeesAChildAsASpecificationObject) {
   assembly_.AddWithoutDocument("car");
   const CATBaseUnknown_var parent = CATBaseUnknown_var::Adopt(new ParentOf(assembly_.At("car")));
   EXPECT_THAT(Visited(parent), ElementsAre("", "car"));
 }
 
-TEST_F(AWalk, SeesNothingInPlaceOfAChildThatIsNoSpecificationObject) {
+TEST_F(ProductTreeWalk, SeesNothingInPlaceOfAChildThatIsNoSpecificationObject) {
   assembly_.AddWithoutDocument("car").AddWithoutDocument("axle").Place("car", "a", "axle");
   const auto hidden =
       CATBaseUnknown_var::Adopt(new AlteredProduct(assembly_.At("car"), CATISpecObject::ClassId()));
@@ -88,12 +88,12 @@ TEST_F(AWalk, SeesNothingInPlaceOfAChildThatIsNoSpecificationObject) {
   EXPECT_THAT(seen, ElementsAre(true, false));
 }
 
-TEST_F(AWalk, EndsWhereThereIsNoWayToChildren) {
+TEST_F(ProductTreeWalk, EndsWhereThereIsNoWayToChildren) {
   EXPECT_THAT(Visited(nullptr), ElementsAre(""));
   EXPECT_THAT(Visited(CATBaseUnknown_var::Adopt(new NoNode)), ElementsAre(""));
 }
 
-TEST_F(AWalk, OfADeepTreeCostsNoStack) {
+TEST_F(ProductTreeWalk, OfADeepTreeCostsNoStack) {
   constexpr int kLevels = 5000;
   AddChain(assembly_, folder_.Host(), kLevels);
   int visits = 0;

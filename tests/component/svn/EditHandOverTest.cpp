@@ -13,9 +13,9 @@ using namespace entries;
 
 using Lists = std::vector<std::vector<std::string>>;
 
-class SVNHandOver : public SVNStage {
+class EditHandOver : public SVNStage {
 protected:
-  SVNHandOver() {
+  EditHandOver() {
     Products.Add("car", "wc/car.CATProduct");
     WriteEntries("wc", Listed());
   }
@@ -29,14 +29,14 @@ protected:
   const LockLines OwnLock{kToken, "anna", "", ""};
 };
 
-TEST_F(SVNHandOver, EditIsALock) {
+TEST_F(EditHandOver, EditIsALock) {
   Client.When("lock " + Path).Store(".svn/entries", Format(10) + Listed(OwnLock));
   EXPECT_EQ(Manager()->Edit(), S_OK);
   EXPECT_EQ(Arguments(), (Lists{{"update", Path}, {"lock", Path}, {"status", "-v", "-u", Path}}));
   EXPECT_EQ(ReadStatusAttributes(Products.At("car")), (StatusAttributes{"9", "Edit", "", "anna\n"}));
 }
 
-TEST_F(SVNHandOver, UneditIsAnUnlock) {
+TEST_F(EditHandOver, UneditIsAnUnlock) {
   WriteEntries("wc", Listed(OwnLock));
   Client.When("unlock").Store(".svn/entries", Format(10) + Listed());
   EXPECT_EQ(Manager()->Unedit(), S_OK);
@@ -44,13 +44,13 @@ TEST_F(SVNHandOver, UneditIsAnUnlock) {
   EXPECT_EQ(ReadStatusAttributes(Products.At("car")), (StatusAttributes{"9", "ReadOnly", "", "\n"}));
 }
 
-TEST_F(SVNHandOver, UneditDoesNotAskWhatTheAttributesSay) {
+TEST_F(EditHandOver, UneditDoesNotAskWhatTheAttributesSay) {
   WriteStatusAttributes(Products.At("car"), {"9", "Locked", "", ""});
   EXPECT_EQ(Manager()->Unedit(), S_OK);
   EXPECT_EQ(Client.Runs().size(), 2U);
 }
 
-TEST_F(SVNHandOver, ALockHeldElsewhereShowsNoDialogAndIsNoFailure) {
+TEST_F(EditHandOver, ALockHeldElsewhereShowsNoDialogAndIsNoFailure) {
   const DialogRecorder dialogs;
   Client.When("lock " + Path).Error("svn: warning: W160035: already locked by user 'bert'\r\n").Exit(1);
   Client.When("status").Out(ForeignLockReport(Path));
@@ -59,7 +59,7 @@ TEST_F(SVNHandOver, ALockHeldElsewhereShowsNoDialogAndIsNoFailure) {
   EXPECT_TRUE(dialogs.Requests().empty());
 }
 
-TEST_F(SVNHandOver, WorksInAFolderThatIsAlsoACVSWorkingCopy) {
+TEST_F(EditHandOver, WorksInAFolderThatIsAlsoACVSWorkingCopy) {
   WriteFile(Folder / "wc" / "CVS" / "Repository", "wc\n");
   WriteFile(Folder / "wc" / "CVS" / "Root", "/cvs\n");
   EXPECT_EQ(Manager()->Edit(), S_OK);
@@ -68,7 +68,7 @@ TEST_F(SVNHandOver, WorksInAFolderThatIsAlsoACVSWorkingCopy) {
   for (const ClientRun& run : Client.Runs()) EXPECT_EQ(run.Program, "svn.exe");
 }
 
-TEST_F(SVNHandOver, IsNotTimed) {
+TEST_F(EditHandOver, IsNotTimed) {
   ZRKECVSManager manager(*Products.At("car").Get());
   manager.CommTime = 7;
   manager.SVNTimings = {1, 2, 3};
@@ -80,7 +80,7 @@ TEST_F(SVNHandOver, IsNotTimed) {
   EXPECT_EQ(manager.SVNTimings.Attributing, 3);
 }
 
-TEST_F(SVNHandOver, OfAProductWithoutADocumentFailsAndRunsNothing) {
+TEST_F(EditHandOver, OfAProductWithoutADocumentFailsAndRunsNothing) {
   Products.AddNotLinkable("group").AddWithoutDocument("plain").Place("car", "gone.1", std::nullopt);
   for (const std::string path : {"group", "plain", "car/gone.1"}) {
     ZRKECVSManager manager(*Products.At(path).Get());
@@ -92,7 +92,7 @@ TEST_F(SVNHandOver, OfAProductWithoutADocumentFailsAndRunsNothing) {
   EXPECT_TRUE(Client.Runs().empty());
 }
 
-TEST(SVNHandOverWithoutCVS, NeedsNoCVSAndShowsNoNotice) {
+TEST(EditHandOverWithoutCVS, NeedsNoCVSAndShowsNoNotice) {
   const Session session;
   const TemporaryFolder folder;
   ScriptedClient client(InstalledClients::SVNOnly);

@@ -18,11 +18,11 @@ std::optional<std::string> Owner(const std::string& report) {
   return owner->ConvertToChar();
 }
 
-TEST(SVNTextReport, ACapitalOBetweenBlanksIsALockHeldElsewhere) {
+TEST(StatusReportAsText, ACapitalOBetweenBlanksIsALockHeldElsewhere) {
   EXPECT_TRUE(ShowsForeignLock("     O           12        9 anna         C:\\w\\car\\wheel.CATPart\r\n"));
 }
 
-TEST(SVNTextReport, TheMarkCountsAnywhere) {
+TEST(StatusReportAsText, TheMarkCountsAnywhere) {
   EXPECT_TRUE(ShowsForeignLock(" O "));
   EXPECT_TRUE(ShowsForeignLock("                 12        9 anna         C:\\w\\my O ring.CATPart\r\n"));
   EXPECT_TRUE(
@@ -31,7 +31,7 @@ TEST(SVNTextReport, TheMarkCountsAnywhere) {
   EXPECT_TRUE(ShowsForeignLock("Status against revision:     12 O "));
 }
 
-TEST(SVNTextReport, WithoutTheMarkNobodyElseHoldsALock) {
+TEST(StatusReportAsText, WithoutTheMarkNobodyElseHoldsALock) {
   for (const char* report : {"", "O", " O", "O ", " O\r\n", "\tO\t", " OO ", " o ", " 0 ",
                              "     K           12        9 anna         C:\\w\\a.CATPart\r\n",
                              "     T           12        9 anna         C:\\w\\a.CATPart\r\n",
@@ -40,7 +40,7 @@ TEST(SVNTextReport, WithoutTheMarkNobodyElseHoldsALock) {
   }
 }
 
-TEST(SVNXMLReport, NamesTheLockOwner) {
+TEST(StatusReportAsXML, NamesTheLockOwner) {
   EXPECT_EQ(
       Owner("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<status>\r\n<target\r\n   path=\"a.CATPart\">"
             "<entry path=\"a.CATPart\"><wc-status item=\"normal\" props=\"none\" revision=\"12\">"
@@ -52,25 +52,25 @@ TEST(SVNXMLReport, NamesTheLockOwner) {
       "anna");
 }
 
-TEST(SVNXMLReport, FileWithoutLockHasNoOwner) {
+TEST(StatusReportAsXML, FileWithoutLockHasNoOwner) {
   EXPECT_EQ(Owner("<status><target path=\"a\"><entry path=\"a\"><wc-status item=\"normal\"/></entry>"
                   "</target></status>"),
             std::nullopt);
   EXPECT_EQ(Owner("<status/>"), std::nullopt);
 }
 
-TEST(SVNXMLReport, OnlyTheFirstOwnerCounts) {
+TEST(StatusReportAsXML, OnlyTheFirstOwnerCounts) {
   EXPECT_EQ(Owner("<status><wc-status><lock><owner>anna</owner></lock></wc-status><repos-status><lock>"
                   "<owner>bert</owner></lock></repos-status><owner>carl</owner></status>"),
             "anna");
 }
 
-TEST(SVNXMLReport, TheFirstOwnerCountsAlsoWhenItIsEmpty) {
+TEST(StatusReportAsXML, TheFirstOwnerCountsAlsoWhenItIsEmpty) {
   EXPECT_EQ(Owner("<status><owner/><owner>bert</owner></status>"), "");
   EXPECT_EQ(Owner("<status><owner></owner></status>"), "");
 }
 
-TEST(SVNXMLReport, WithoutMemoryForItsObjectsThereIsNoOwner) {
+TEST(StatusReportAsXML, WithoutMemoryForItsObjectsThereIsNoOwner) {
   const char* const report = "<status><owner>anna</owner></status>";
   constexpr int kMostObjects = 20;
   int objects = 0;
@@ -84,37 +84,37 @@ TEST(SVNXMLReport, WithoutMemoryForItsObjectsThereIsNoOwner) {
   EXPECT_GT(objects, 1) << "no object was refused";
 }
 
-TEST(SVNXMLReport, TheOwnerMayStandAtAnyDepth) {
+TEST(StatusReportAsXML, TheOwnerMayStandAtAnyDepth) {
   EXPECT_EQ(Owner("<status><owner>anna</owner></status>"), "anna");
   EXPECT_EQ(Owner("<status><changelist name=\"x\"><a><b><c><d><owner>anna</owner></d></c></b></a>"
                   "</changelist></status>"),
             "anna");
 }
 
-TEST(SVNXMLReport, OfOwnersInsideEachOtherTheOuterOneIsFirstAndHasAllTheText) {
+TEST(StatusReportAsXML, OfOwnersInsideEachOtherTheOuterOneIsFirstAndHasAllTheText) {
   EXPECT_EQ(Owner("<status><owner>an<owner>n</owner>a</owner></status>"), "anna");
 }
 
-TEST(SVNXMLReport, TheOwnersTextIsAllTheTextBelow) {
+TEST(StatusReportAsXML, TheOwnersTextIsAllTheTextBelow) {
   EXPECT_EQ(Owner("<s><owner>a<b>n<c>n</c></b>a</owner></s>"), "anna");
   EXPECT_EQ(Owner("<s><owner>a<![CDATA[n<n]]>&amp;&#97;<!-- not this --></owner></s>"), "an<n&a");
 }
 
-TEST(SVNXMLReport, TheOwnerKeepsItsBlanks) {
+TEST(StatusReportAsXML, TheOwnerKeepsItsBlanks) {
   EXPECT_EQ(Owner("<s><owner> anna b. c. </owner></s>"), " anna b. c. ");
 }
 
-TEST(SVNXMLReport, ElementsOfOtherNamesAreNoOwners) {
+TEST(StatusReportAsXML, ElementsOfOtherNamesAreNoOwners) {
   EXPECT_EQ(Owner("<s owner=\"anna\"><Owner>anna</Owner><owners>anna</owners><lock-owner>anna</lock-owner>"
                   "<!-- <owner>anna</owner> --></s>"),
             std::nullopt);
 }
 
-TEST(SVNXMLReport, TheRootIsNotAmongTheElementsBelowIt) {
+TEST(StatusReportAsXML, TheRootIsNotAmongTheElementsBelowIt) {
   EXPECT_EQ(Owner("<owner>anna</owner>"), std::nullopt);
 }
 
-TEST(SVNXMLReport, AnOwnerOfAnyAlphabetIsInTheHostsEncoding) {
+TEST(StatusReportAsXML, AnOwnerOfAnyAlphabetIsInTheHostsEncoding) {
   const std::string name = "J\xC3\xBCrgen \xC3\x84rger";
   const std::string report = "<?xml version=\"1.0\" encoding=\"UTF-8\"?><s><owner>" + name + "</owner></s>";
   EXPECT_EQ(Owner(report), standin::NativeFromUtf8(name));

@@ -13,7 +13,7 @@ using zrk::svn::Form;
 using zrk::svn::FormOfDocument;
 using zrk::svn::WorkingCopyForms;
 
-class FormOfAFolder : public testing::Test {
+class WorkingCopyFormOfAFolder : public testing::Test {
 protected:
   void WriteDatabase(const std::string& folder) const { WriteFile(Folder / folder / ".svn/wc.db", "db"); }
   void WriteEntries(const std::string& folder, const std::string& text) const {
@@ -31,24 +31,24 @@ protected:
   const TemporaryFolder Folder;
 };
 
-TEST_F(FormOfAFolder, IsNoneWithoutAnything) {
+TEST_F(WorkingCopyFormOfAFolder, IsNoneWithoutAnything) {
   EXPECT_EQ(Kind("plain"), Form::None);
   EXPECT_EQ(Root("plain"), "none");
 }
 
-TEST_F(FormOfAFolder, IsTheDatabaseThatItHoldsItself) {
+TEST_F(WorkingCopyFormOfAFolder, IsTheDatabaseThatItHoldsItself) {
   WriteDatabase("wc");
   EXPECT_EQ(Kind("wc"), Form::Database);
   EXPECT_EQ(Root("wc"), "\\wc");
 }
 
-TEST_F(FormOfAFolder, IsTheDatabaseAboveAtAnyDepthAlsoWhenTheFoldersAreGone) {
+TEST_F(WorkingCopyFormOfAFolder, IsTheDatabaseAboveAtAnyDepthAlsoWhenTheFoldersAreGone) {
   WriteDatabase("wc");
   EXPECT_EQ(Kind("wc/a/b/c"), Form::Database);
   EXPECT_EQ(Root("wc/a/b/c"), "\\wc");
 }
 
-TEST_F(FormOfAFolder, IsTheNearestOfTwoDatabases) {
+TEST_F(WorkingCopyFormOfAFolder, IsTheNearestOfTwoDatabases) {
   WriteDatabase("wc");
   WriteDatabase("wc/a/b");
   EXPECT_EQ(Root("wc/a"), "\\wc");
@@ -56,37 +56,37 @@ TEST_F(FormOfAFolder, IsTheNearestOfTwoDatabases) {
   EXPECT_EQ(Root("wc/a/b/c"), "\\wc\\a\\b");
 }
 
-TEST_F(FormOfAFolder, IsNotThatOfADatabaseBesideOrBelowIt) {
+TEST_F(WorkingCopyFormOfAFolder, IsNotThatOfADatabaseBesideOrBelowIt) {
   WriteDatabase("wc/a");
   EXPECT_EQ(Kind("wc"), Form::None);
   EXPECT_EQ(Kind("wc/b"), Form::None);
 }
 
-TEST_F(FormOfAFolder, IsNotThatOfANameThatBeginsAsIts) {
+TEST_F(WorkingCopyFormOfAFolder, IsNotThatOfANameThatBeginsAsIts) {
   WriteDatabase("wc");
   EXPECT_EQ(Kind("wc2"), Form::None);
 }
 
-TEST_F(FormOfAFolder, IsTextWhenItsEntriesHaveMoreThanOneLine) {
+TEST_F(WorkingCopyFormOfAFolder, IsTextWhenItsEntriesHaveMoreThanOneLine) {
   WriteEntries("wc", "10\n\ndir\n");
   EXPECT_EQ(Kind("wc"), Form::Text);
   EXPECT_EQ(Root("wc"), "none");
 }
 
-TEST_F(FormOfAFolder, IsTextAlsoWithADatabaseBesideTheEntries) {
+TEST_F(WorkingCopyFormOfAFolder, IsTextAlsoWithADatabaseBesideTheEntries) {
   WriteDatabase("wc");
   WriteEntries("wc", "10\n\ndir\n");
   EXPECT_EQ(Kind("wc"), Form::Text);
   EXPECT_EQ(Root("wc"), "none");
 }
 
-TEST_F(FormOfAFolder, IsTextAlsoWithCVSBesideTheEntries) {
+TEST_F(WorkingCopyFormOfAFolder, IsTextAlsoWithCVSBesideTheEntries) {
   WriteEntries("wc", "10\n\ndir\n");
   WriteCVS("wc");
   EXPECT_EQ(Kind("wc"), Form::Text);
 }
 
-TEST_F(FormOfAFolder, OneLineOfEntriesSaysNothing) {
+TEST_F(WorkingCopyFormOfAFolder, OneLineOfEntriesSaysNothing) {
   WriteDatabase("wc");
   for (const char* line : {"", "12", "12\n", "12\r\n", "12\n\x1a\n"}) {
     WriteEntries("wc", line);
@@ -96,14 +96,14 @@ TEST_F(FormOfAFolder, OneLineOfEntriesSaysNothing) {
   }
 }
 
-TEST_F(FormOfAFolder, ASecondLineMakesItTextWhateverItHolds) {
+TEST_F(WorkingCopyFormOfAFolder, ASecondLineMakesItTextWhateverItHolds) {
   for (const char* lines : {"12\n\n", "12\n ", "12\r\n\r\n", "\n\f"}) {
     WriteEntries("wc", lines);
     EXPECT_EQ(Kind("wc"), Form::Text) << lines;
   }
 }
 
-TEST_F(FormOfAFolder, TextEntriesAboveEndTheWayUp) {
+TEST_F(WorkingCopyFormOfAFolder, TextEntriesAboveEndTheWayUp) {
   WriteDatabase("wc");
   WriteEntries("wc/old", "10\n\ndir\n");
   EXPECT_EQ(Kind("wc/old"), Form::Text);
@@ -111,19 +111,19 @@ TEST_F(FormOfAFolder, TextEntriesAboveEndTheWayUp) {
   EXPECT_EQ(Root("wc/old/sub"), "none");
 }
 
-TEST_F(FormOfAFolder, ADatabaseBelowTextEntriesHolds) {
+TEST_F(WorkingCopyFormOfAFolder, ADatabaseBelowTextEntriesHolds) {
   WriteEntries("wc", "10\n\ndir\n");
   WriteDatabase("wc/new");
   EXPECT_EQ(Root("wc/new/sub"), "\\wc\\new");
 }
 
-TEST_F(FormOfAFolder, OfCVSIsNoneAlsoWithADatabaseBesideIt) {
+TEST_F(WorkingCopyFormOfAFolder, OfCVSIsNoneAlsoWithADatabaseBesideIt) {
   WriteDatabase("wc");
   WriteCVS("wc");
   EXPECT_EQ(Kind("wc"), Form::None);
 }
 
-TEST_F(FormOfAFolder, OfCVSEndsTheWayUp) {
+TEST_F(WorkingCopyFormOfAFolder, OfCVSEndsTheWayUp) {
   WriteDatabase("wc");
   WriteCVS("wc/cvs");
   EXPECT_EQ(Kind("wc/cvs"), Form::None);
@@ -131,7 +131,7 @@ TEST_F(FormOfAFolder, OfCVSEndsTheWayUp) {
   EXPECT_EQ(Root("wc/other"), "\\wc");
 }
 
-TEST_F(FormOfAFolder, NeedsTheFilesAndNotFoldersOfTheirNames) {
+TEST_F(WorkingCopyFormOfAFolder, NeedsTheFilesAndNotFoldersOfTheirNames) {
   std::filesystem::create_directories(Folder / "wc/.svn/wc.db");
   std::filesystem::create_directories(Folder / "wc/.svn/entries");
   EXPECT_EQ(Kind("wc"), Form::None);
@@ -140,7 +140,7 @@ TEST_F(FormOfAFolder, NeedsTheFilesAndNotFoldersOfTheirNames) {
   EXPECT_EQ(Kind("cvs"), Form::Database);
 }
 
-TEST_F(FormOfAFolder, IsRememberedWithTheFoldersOnTheWay) {
+TEST_F(WorkingCopyFormOfAFolder, IsRememberedWithTheFoldersOnTheWay) {
   WriteDatabase("wc");
   WorkingCopyForms forms;
   EXPECT_EQ(forms.Of(Folder.Host("wc/a/b")).Kind, Form::Database);
@@ -155,7 +155,7 @@ TEST_F(FormOfAFolder, IsRememberedWithTheFoldersOnTheWay) {
   EXPECT_EQ(forms.Of(Folder.Host("plain/b")).Kind, Form::None);
 }
 
-TEST_F(FormOfAFolder, OfARememberedFolderAboveHoldsForThoseBelow) {
+TEST_F(WorkingCopyFormOfAFolder, OfARememberedFolderAboveHoldsForThoseBelow) {
   WriteDatabase("wc");
   WriteEntries("wc/old", "10\n\ndir\n");
   WriteCVS("wc/cvs");
@@ -166,20 +166,20 @@ TEST_F(FormOfAFolder, OfARememberedFolderAboveHoldsForThoseBelow) {
   EXPECT_EQ(forms.Of(Folder.Host("wc/cvs/a")).Kind, Form::None);
 }
 
-TEST_F(FormOfAFolder, IsLookedForAnewInTheNextWalk) {
+TEST_F(WorkingCopyFormOfAFolder, IsLookedForAnewInTheNextWalk) {
   WriteDatabase("wc");
   EXPECT_EQ(Kind("wc/a"), Form::Database);
   WriteCVS("wc/a");
   EXPECT_EQ(Kind("wc/a"), Form::None);
 }
 
-TEST_F(FormOfAFolder, IsThatOfTheDocumentsInIt) {
+TEST_F(WorkingCopyFormOfAFolder, IsThatOfTheDocumentsInIt) {
   WriteDatabase("wc");
   EXPECT_EQ(FormOfDocument(Folder.Host("wc/a/car.CATPart").c_str()), Form::Database);
   EXPECT_EQ(FormOfDocument(Folder.Host("wc").c_str()), Form::None);
 }
 
-TEST_F(FormOfAFolder, OfADocumentThatWasNeverStoredIsNone) {
+TEST_F(WorkingCopyFormOfAFolder, OfADocumentThatWasNeverStoredIsNone) {
   EXPECT_EQ(FormOfDocument(""), Form::None);
 }
 

@@ -12,7 +12,7 @@ namespace {
 using zrk::svn::Form;
 using zrk::svn::WorkingCopyForms;
 
-TEST(FormOnADrive, MayBeTheDatabaseAtItsTopAndNothingFurtherUp) {
+TEST(WorkingCopyFormOnADrive, MayBeTheDatabaseAtItsTopAndNothingFurtherUp) {
   const TemporaryFolder folder;
   const CurrentFolder current(folder.Path());
   WriteFile(folder / "C:/.svn/wc.db", "db");
@@ -23,7 +23,7 @@ TEST(FormOnADrive, MayBeTheDatabaseAtItsTopAndNothingFurtherUp) {
 }
 
 // "\\tmp\folder" is the temporary folder as a share.
-TEST(FormOnAShare, MayBeTheDatabaseAtItsTop) {
+TEST(WorkingCopyFormOnAShare, MayBeTheDatabaseAtItsTop) {
   const TemporaryFolder folder;
   WriteFile(folder / ".svn/wc.db", "db");
   const std::string share = "\\" + folder.Host();

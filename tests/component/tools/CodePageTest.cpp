@@ -22,7 +22,7 @@ std::string NativeName() {
 
 }  // namespace
 
-TEST(NamesBeyondASCII, ReachTheClientInItsArguments) {
+TEST(CodePageNames, ReachTheClientInItsArguments) {
   ToolRunner tool;
   tool.Run(("status \"sub\\" + NativeName() + "\"").c_str());
   ASSERT_EQ(tool.Client.Runs().size(), 1u);
@@ -30,7 +30,7 @@ TEST(NamesBeyondASCII, ReachTheClientInItsArguments) {
             (std::vector<std::string>{"-d", "/cvs/root", "status", "sub\\" + NativeName()}));
 }
 
-TEST(NamesBeyondASCII, MayBeThatOfTheWorkingFolder) {
+TEST(CodePageNames, MayBeThatOfTheWorkingFolder) {
   ToolRunner tool;
   std::filesystem::create_directory(tool.Folder / kUmlautName);
   tool.RunIn(tool.Folder.Host() + "\\" + NativeName());
@@ -38,7 +38,7 @@ TEST(NamesBeyondASCII, MayBeThatOfTheWorkingFolder) {
   EXPECT_EQ(tool.Client.Runs()[0].Folder, tool.Folder.Host() + "\\" + NativeName());
 }
 
-TEST(NamesBeyondASCII, MayBeThatOfTheClientsFolder) {
+TEST(CodePageNames, MayBeThatOfTheClientsFolder) {
   ToolRunner tool;
   std::filesystem::create_directory(tool.Folder / kUmlautName);
   std::filesystem::copy_file(standin::FilePath(tool.Client.HostPath("cvs.exe")),
@@ -48,7 +48,7 @@ TEST(NamesBeyondASCII, MayBeThatOfTheClientsFolder) {
   EXPECT_EQ(tool.Run(), "text");
 }
 
-TEST(NamesBeyondASCII, MayBeThatOfAFileThatIsRead) {
+TEST(CodePageNames, MayBeThatOfAFileThatIsRead) {
   const TemporaryFolder folder;
   WriteFile(folder / kUmlautName, "text\r\n");
   const std::string path = folder.Host() + "\\" + NativeName();

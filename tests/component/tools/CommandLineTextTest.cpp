@@ -16,7 +16,7 @@ std::wstring WideOf(const std::string& text) {
 
 }  // namespace
 
-TEST(ToolCommandLine, BeginsWithABlankAndKeepsTheArgumentsOwnBlanks) {
+TEST(CommandLineText, BeginsWithABlankAndKeepsTheArgumentsOwnBlanks) {
   ToolRunner tool;
   const Launches launches;
   tool.Run(" status -v \"a.CATPart\"");
@@ -24,7 +24,7 @@ TEST(ToolCommandLine, BeginsWithABlankAndKeepsTheArgumentsOwnBlanks) {
   EXPECT_EQ(launches.All()[0].CommandLine, L" -d /cvs/root  status -v \"a.CATPart\"");
 }
 
-TEST(ToolCommandLine, OneBlankStandsBetweenTheRootAndTheArguments) {
+TEST(CommandLineText, OneBlankStandsBetweenTheRootAndTheArguments) {
   ToolRunner tool;
   const Launches launches;
   tool.Run("-n -q update \"a.CATPart\"");
@@ -32,7 +32,7 @@ TEST(ToolCommandLine, OneBlankStandsBetweenTheRootAndTheArguments) {
   EXPECT_EQ(launches.All()[0].CommandLine, L" -d /cvs/root -n -q update \"a.CATPart\"");
 }
 
-TEST(ToolCommandLine, InSVNModeEqualsTheArguments) {
+TEST(CommandLineText, InSVNModeEqualsTheArguments) {
   ToolRunner tool;
   tool.IsSVN = true;
   const Launches launches;
@@ -41,7 +41,7 @@ TEST(ToolCommandLine, InSVNModeEqualsTheArguments) {
   EXPECT_EQ(launches.All()[0].CommandLine, L" delete  \"a.CATPart\"");
 }
 
-TEST(ToolCommandLine, TheProgramAndTheFolderGoApartFromIt) {
+TEST(CommandLineText, TheProgramAndTheFolderGoApartFromIt) {
   ToolRunner tool;
   const Launches launches;
   tool.Run();
@@ -51,7 +51,7 @@ TEST(ToolCommandLine, TheProgramAndTheFolderGoApartFromIt) {
   EXPECT_TRUE(launches.All()[0].Started);
 }
 
-TEST(ToolCommandLine, TextBeyondASCIIIsPassedAsItIs) {
+TEST(CommandLineText, TextBeyondASCIIIsPassedAsItIs) {
   ToolRunner tool;
   const Launches launches;
   tool.Run(("status \"" + standin::NativeFromWide(L"T\u00FCr.CATPart") + "\"").c_str());
@@ -59,7 +59,7 @@ TEST(ToolCommandLine, TextBeyondASCIIIsPassedAsItIs) {
   EXPECT_EQ(launches.All()[0].CommandLine, L" -d /cvs/root status \"T\u00FCr.CATPart\"");
 }
 
-TEST(ToolCommandLine, KeepsThePlaceOfAnEmptyRoot) {
+TEST(CommandLineText, KeepsThePlaceOfAnEmptyRoot) {
   ToolRunner tool;
   tool.CVSRoot = "";
   const Launches launches;

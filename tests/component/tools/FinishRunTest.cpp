@@ -52,7 +52,7 @@ TEST_F(AWaitingClient, HasEndedWhenTheOperationIsOver) {
   EXPECT_TRUE(HasEnded());
 }
 
-TEST(FinishingARun, MayBeDoneWithoutOneAndTwice) {
+TEST(FinishRunAgain, MayBeDoneWithoutOneAndTwice) {
   ToolRunner tool;
   tool.Client.Otherwise().Out("text");
   const int handles = CountOpenHandles();
