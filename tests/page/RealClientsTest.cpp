@@ -61,7 +61,8 @@ void ExpectPageOf(const Json& report, const std::filesystem::path& page, const J
 }
 
 using RealClientsOfCVS = CVSWorkingCopies;
-INSTANTIATE_TEST_SUITE_P(Of, RealClientsOfCVS, testing::Values(""), [](const auto&) { return "AWorkingCopy"; });
+INSTANTIATE_TEST_SUITE_P(Of, RealClientsOfCVS, testing::Values(""),
+                         [](const auto&) { return "AWorkingCopy"; });
 
 TEST_P(RealClientsOfCVS, ShowsWhatTheReportHolds) {
   CheckOut(kFiles);
