@@ -9,13 +9,12 @@ int main(int argc, char** argv) {
   setenv("SVN_SSH", "ssh -q -o BatchMode=yes --", 0);
 
   const InstalledClient client{"svn", "svn.exe", "subversion"};
-  const std::vector<std::string> call{argv + (argc > 0 ? 1 : 0), argv + argc};
-  const std::vector<std::string> translatedCall = TranslateSVNArguments(call);
-  if (IsForTodaysClient(call)) return BecomeInstalledClient(client, translatedCall);
+  const SVNCall call = TranslateSVNCall({argv + (argc > 0 ? 1 : 0), argv + argc});
+  if (call.IsForTodaysClient) return BecomeInstalledClient(client, call.Arguments);
 
   LineEndTranslator lineEnds;
   std::string translated;
-  return RunInstalledClient(client, translatedCall, [&](std::string_view piece) {
+  return RunInstalledClient(client, call.Arguments, [&](std::string_view piece) {
     translated.clear();
     lineEnds.Translate(piece, translated);
     return WriteToStandardOutput(translated);

@@ -115,26 +115,21 @@ std::string Closed(const std::string& path) {
 
 }  // namespace
 
-bool IsForTodaysClient(const std::vector<std::string>& arguments) {
-  return IsNeverAsked(Parse(arguments));
-}
-
-std::vector<std::string> TranslateSVNArguments(const std::vector<std::string>& arguments) {
+SVNCall TranslateSVNCall(const std::vector<std::string>& arguments) {
   const std::vector<Argument> parsed = Parse(arguments);
-  const bool isForToday = IsNeverAsked(parsed);
-  const bool dropMessage = !isForToday && IsDeletionOfPaths(parsed);
+  SVNCall call{{}, IsNeverAsked(parsed)};
+  const bool dropMessage = !call.IsForTodaysClient && IsDeletionOfPaths(parsed);
 
-  std::vector<std::string> translated;
-  if (!isForToday) translated = {kNonInteractive};
+  if (!call.IsForTodaysClient) call.Arguments = {kNonInteractive};
   for (const Argument& argument : parsed) {
     if (dropMessage && argument.ItsRole == Role::Message) continue;
     if (argument.ItsRole == Role::Path) {
       const std::string path = WithSlashes(argument.Text);
-      translated.push_back(isForToday ? path : Closed(path));
+      call.Arguments.push_back(call.IsForTodaysClient ? path : Closed(path));
     } else {
-      translated.push_back(argument.Text);
+      call.Arguments.push_back(argument.Text);
     }
-    if (argument.Value) translated.push_back(*argument.Value);
+    if (argument.Value) call.Arguments.push_back(*argument.Value);
   }
-  return translated;
+  return call;
 }
