@@ -73,7 +73,7 @@ TEST_P(RealClientsOfCVS, ShowsWhatTheReportHolds) {
       anna_.Host({SessionOn(folder_, annasCopy_), "-c", "refresh", "-c", "edit car/motor.1", "--page", page});
   ExpectPageOf(report, page,
                {{{"owner", "This working copy"}, {"files", Json::array({"motor.CATProduct: Edit"})}},
-                {{"owner", NameOf(ben_)}, {"files", Json::array({"Tür links.CATPart: Locked"})}}});
+                {{"owner", ben_.Name()}, {"files", Json::array({"Tür links.CATPart: Locked"})}}});
 }
 
 using RealClientsOfSVN = SVNWorkingCopies;

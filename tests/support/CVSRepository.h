@@ -28,6 +28,7 @@ public:
   // From here on files of the module are checked out read-only.
   void WatchOn(const std::string& module) const;
   void Tag(const std::filesystem::path& workingCopy, const std::string& tag) const;
+  // Takes the file for editing; its editor bears the user's name, whichever account runs the tests.
   void Edit(const std::filesystem::path& folder, const std::string& file, const std::string& user) const;
   // Commits new contents of a file of a working copy.
   void Commit(const std::filesystem::path& folder, const std::string& file,
@@ -36,6 +37,9 @@ public:
   // Replaces an administrative file, such as "config", as the client reads it.
   void WriteAdminFile(const std::string& name, const std::string& text) const;
 
+  // The name that the client itself gives the user: that of LOGNAME only for the administrator, else that of
+  // the account.
+  static std::string NameOf(const std::string& user);
   // Names the editors of a file as `cvs editors` prints them.
   std::string Editors(const std::filesystem::path& folder, const std::string& file) const;
 

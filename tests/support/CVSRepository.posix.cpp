@@ -1,5 +1,10 @@
 #include "support/CVSRepository.h"
 
+#include <pwd.h>
+#include <unistd.h>
+
+#include <regex>
+
 #include "support/Files.h"
 #include "support/TemporaryFolder.h"
 
@@ -43,6 +48,15 @@ void CVSRepository::Tag(const fs::path& workingCopy, const std::string& tag) con
 
 void CVSRepository::Edit(const fs::path& folder, const std::string& file, const std::string& user) const {
   Run({"edit", file}, folder, user);
+  const std::string named = NameOf(user);
+  if (named == user) return;
+  // As the repository keeps it, in the folder of the file.
+  const fs::path edited = folder / file;
+  std::string parent = ReadFile(edited.parent_path() / "CVS/Repository");
+  parent.pop_back();
+  const fs::path attributes = path_ / parent / "CVS/fileattr";
+  const std::regex editor("(\nF" + edited.filename().string() + "\t(?:.*;)?_editors=(?:.*,)?)" + named + ">");
+  WriteFile(attributes, std::regex_replace("\n" + ReadFile(attributes), editor, "$1" + user + ">").substr(1));
 }
 
 void CVSRepository::Commit(const fs::path& folder, const std::string& file,
@@ -57,6 +71,11 @@ void CVSRepository::WriteAdminFile(const std::string& name, const std::string& t
   const fs::path file = path_ / "CVSROOT" / name;
   if (fs::exists(file)) SetWritable(file);
   WriteFile(file, text);
+}
+
+std::string CVSRepository::NameOf(const std::string& user) {
+  const passwd* account = getuid() == 0 ? nullptr : getpwuid(getuid());
+  return account ? account->pw_name : user;
 }
 
 std::string CVSRepository::Editors(const fs::path& folder, const std::string& file) const {

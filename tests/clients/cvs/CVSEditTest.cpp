@@ -36,7 +36,7 @@ TEST_P(CVSEdit, MakesAWatchedFileWritable) {
   const Json report = Anna({"edit " + kWheelProduct});
   EXPECT_EQ(CommandOf(report).at("result"), 0);
   EXPECT_TRUE(IsWritable(annasCopy_ / kWheel));
-  EXPECT_THAT(Editors(), StartsWith(kWheel + "\t" + NameOf(anna_) + "\t"));
+  EXPECT_THAT(Editors(), StartsWith(kWheel + "\t" + CVSRepository::NameOf(anna_.Name()) + "\t"));
   const Json attributes = AttributesByFile(report, annasCopy_).at(kWheel);
   EXPECT_EQ(attributes.at("Status"), "Edit");
   EXPECT_EQ(attributes.at("Revision"), "1.1.1.1");
@@ -47,8 +47,8 @@ TEST_P(CVSEdit, ShowsTheFileLockedToTheOtherUser) {
   Anna({"edit " + kWheelProduct});
   const auto attributes = AttributesByFile(Ben({"refresh"}), bensCopy_);
   EXPECT_EQ(attributes.at(kWheel).at("Status"), "Locked");
-  EXPECT_THAT(attributes.at(kWheel).at("Comment"),
-              StartsWith(std::string(kModule) + "/" + kWheel + "\n" + NameOf(anna_) + "\n"));
+  EXPECT_THAT(attributes.at(kWheel).at("Comment"), StartsWith(std::string(kModule) + "/" + kWheel + "\n" +
+                                                              CVSRepository::NameOf(anna_.Name()) + "\n"));
   EXPECT_THAT(attributes.at(kWheel).at("Comment"), EndsWith(annasParent_.string()));
   EXPECT_EQ(attributes.at(kCar).at("Status"), "ReadOnly");
 }
@@ -106,7 +106,7 @@ TEST_P(CVSEdit, KeepsAChangedFileThatIsNotToBeReverted) {
   EXPECT_TRUE(anna_.WaitUntilNoProcessIsLeft());
   EXPECT_EQ(ReadFile(annasCopy_ / kWheel), "changed\n");
   EXPECT_TRUE(IsWritable(annasCopy_ / kWheel));
-  EXPECT_THAT(Editors(), StartsWith(kWheel + "\t" + NameOf(anna_) + "\t"));
+  EXPECT_THAT(Editors(), StartsWith(kWheel + "\t" + CVSRepository::NameOf(anna_.Name()) + "\t"));
 }
 
 TEST_P(CVSEdit, OfAFileThatIsNotTakenIsNotGivenBack) {
@@ -114,7 +114,7 @@ TEST_P(CVSEdit, OfAFileThatIsNotTakenIsNotGivenBack) {
   BenEdits(kWheel);
   const Json report = Anna({"unedit " + kWheelProduct}, 1);
   EXPECT_EQ(CommandOf(report).at("result"), kRefused);
-  EXPECT_THAT(repository_.Editors(bensCopy_, kWheel), StartsWith(kWheel + "\t" + NameOf(ben_) + "\t"));
+  EXPECT_THAT(repository_.Editors(bensCopy_, kWheel), StartsWith(kWheel + "\t" + ben_.Name() + "\t"));
 }
 
 TEST_P(CVSEdit, SchedulesARemoval) {

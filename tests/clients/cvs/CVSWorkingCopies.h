@@ -39,10 +39,6 @@ protected:
     return ben_.HostOn(bensCopy_, commands, status);
   }
 
-  // The name by which the client knows the user: it takes it from the environment only where it runs as the
-  // administrator, else from the account.
-  static std::string NameOf(const User& user);
-
   // Has Ben take the file for editing with his client.
   void BenEdits(const std::string& file) const { repository_.Edit(bensCopy_, file, ben_.Name()); }
 
