@@ -26,8 +26,7 @@ DialogAnswer Ask(const DialogRequest& request) {
   // A copy, as the user may be replaced while answering.
   const DialogResponder user = TheUser();
   const DialogAnswer answer = user ? user(request) : DialogAnswer::No;
-  if (!request.IsQuestion()) return DialogAnswer::Acknowledged;
-  return answer == DialogAnswer::Yes ? DialogAnswer::Yes : DialogAnswer::No;
+  return request.IsQuestion() ? answer : DialogAnswer::Acknowledged;
 }
 
 }  // namespace

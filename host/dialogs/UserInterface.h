@@ -21,7 +21,7 @@ struct DialogRequest {
 enum class DialogAnswer { Acknowledged = 1, Yes = 3, No = 4 };
 
 // The user. Without one, notices are acknowledged and questions answered with no. A notice can only be
-// acknowledged; a question that is not answered with yes is answered with no.
+// acknowledged; a question may be put away like one, without a yes or a no.
 using DialogResponder = std::function<DialogAnswer(const DialogRequest&)>;
 void SetDialogResponder(DialogResponder responder);
 
