@@ -83,9 +83,7 @@ HRESULT ZRKECVSManager::QueryCVSFileStatus(const CATUnicodeString& documentPath,
 }
 
 HRESULT ZRKECVSManager::QuerySVNFileStatus(const CATUnicodeString& documentPath, ZRKCVSStatus& record) {
-  const tools::RunClock clock;
-  svn::QueryDatabaseFile(SVN(), documentPath, record);
-  CommTime += clock.Elapsed();
+  CommTime += svn::QueryDatabaseFile(SVN(), documentPath, record);
   return S_OK;
 }
 

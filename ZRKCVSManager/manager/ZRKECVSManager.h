@@ -79,7 +79,7 @@ public:
   zrk::cvs::ReportTable EditTable;
   // Has no role.
   std::int64_t SpareCounter = 0;
-  // Time spent waiting for cvs.exe, in milliseconds. A refresh leaves that of its edit pass.
+  // Time spent waiting for the client, in milliseconds. A CVS refresh leaves that of its edit pass.
   zrk::tools::Ticks CommTime = 0;
   // Empty when it was not found along PATH.
   CATUnicodeString SVNExePath;

@@ -70,10 +70,9 @@ void ReadStatusOfFolder(const SVNContext& context, std::string_view folder, SVNT
   ReadStatus(context, {}, folder, std::string(folder) + '\\', times, files);
 }
 
-ReportedFiles ReadStatusOfFile(const SVNContext& context, std::string_view path) {
+ReportedFiles ReadStatusOfFile(const SVNContext& context, std::string_view path, SVNTimes& times) {
   ReportedFiles files;
-  SVNTimes notCounted;
-  ReadStatus(context, PathArgument(path), text::FolderOf(path), "", notCounted, files);
+  ReadStatus(context, PathArgument(path), text::FolderOf(path), "", times, files);
   return files;
 }
 

@@ -21,10 +21,10 @@ void RunDatabaseCommand(const SVNContext& context, const char* command, std::str
 
 // The status of all that lies in a folder, by full path, and of one file, by the path that the client gives
 // it. Each takes one run of the client, and one more that asks the working copy alone when the first report
-// is cut off, as it is when the repository cannot be reached. What neither says is not there. Adds to the
-// times of the refresh.
+// is cut off, as it is when the repository cannot be reached. What neither says is not there. Adds to
+// `times`.
 void ReadStatusOfFolder(const SVNContext& context, std::string_view folder, SVNTimes& times,
                         ReportedFiles& files);
-ReportedFiles ReadStatusOfFile(const SVNContext& context, std::string_view path);
+ReportedFiles ReadStatusOfFile(const SVNContext& context, std::string_view path, SVNTimes& times);
 
 }  // namespace zrk::svn

@@ -117,20 +117,24 @@ std::int32_t RefreshDatabaseDocument(const SVNContext& context, const CATBaseUnk
   const product::ProductDocument document = product::ReachDocumentOrClear(product, context.AttributeClass);
   if (!document.Exists()) return 0;
   const std::string_view path = text::View(document.Path);
-  const ReportedFiles files = ReadStatusOfFile(context, path);
+  SVNTimes notCounted;
+  const ReportedFiles files = ReadStatusOfFile(context, path, notCounted);
   const ZRKCVSStatus record = RecordOf(FindByName(files, text::NameOf(path)));
   ShowOnProduct(context, product, record, SingleComment(record));
   return 0;
 }
 
-void QueryDatabaseFile(const SVNContext& context, const CATUnicodeString& path, ZRKCVSStatus& record) {
+tools::Ticks QueryDatabaseFile(const SVNContext& context, const CATUnicodeString& path,
+                               ZRKCVSStatus& record) {
   const std::string name(text::NameOf(text::View(path)));
-  const ReportedFiles files = ReadStatusOfFile(context, text::View(path));
-  const ReportedFile* const file = FindByName(files, name);
-  if (!file) return;
-  record.File = name.c_str();
-  record.Status = file->Item.c_str();
-  if (file->IsVersioned()) FillRecord(*file, record);
+  SVNTimes times;
+  const ReportedFiles files = ReadStatusOfFile(context, text::View(path), times);
+  if (const ReportedFile* const file = FindByName(files, name)) {
+    record.File = name.c_str();
+    record.Status = file->Item.c_str();
+    if (file->IsVersioned()) FillRecord(*file, record);
+  }
+  return static_cast<tools::Ticks>(times.StatusCheck);
 }
 
 }  // namespace zrk::svn

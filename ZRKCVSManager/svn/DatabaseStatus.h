@@ -4,6 +4,7 @@
 
 #include "ZRKCVSStatus.h"
 #include "svn/SVNContext.h"
+#include "tools/RunClock.h"
 
 // Bringing the status attributes of products up to date whose documents lie in Subversion working copies with
 // a database. What they show comes from one report of the client for a whole working copy:
@@ -32,7 +33,7 @@ std::int32_t RefreshDatabaseDocument(const SVNContext& context, const CATBaseUnk
 
 // Fills the record for the file of that full path: File is its name, Status the working copy's word for it,
 // and for one that the working copy holds see FillRecord. A file that the client does not name leaves the
-// record as it was.
-void QueryDatabaseFile(const SVNContext& context, const CATUnicodeString& path, ZRKCVSStatus& record);
+// record as it was. Gives the time of the client's runs.
+tools::Ticks QueryDatabaseFile(const SVNContext& context, const CATUnicodeString& path, ZRKCVSStatus& record);
 
 }  // namespace zrk::svn

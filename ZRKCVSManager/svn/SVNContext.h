@@ -8,9 +8,9 @@ namespace zrk::svn {
 
 // Where the time of a Subversion refresh went, in ticks of the C runtime's clock (milliseconds).
 struct SVNTimes {
-  // Reading entries files and the text report.
+  // Text form: reading entries files and the text report. With a database: the runs of the client.
   double StatusCheck = 0.0;
-  // The XML report, its run included.
+  // Text form: the XML report, its run included. With a database: the reading of the reports.
   double XMLParsing = 0.0;
   // Writing attributes.
   double Attributing = 0.0;
@@ -19,7 +19,7 @@ struct SVNTimes {
 // What the Subversion operations work with; it belongs to the manager.
 struct SVNContext {
   tools::ToolContext Tools;
-  // Folder in which svn.exe runs.
+  // Folder in which svn.exe runs for documents of the text form.
   const CATUnicodeString& WorkingFolder;
   const ZRKIAttClass_var& AttributeClass;
 };

@@ -47,9 +47,9 @@ class ZRKICVSManager : public CATBaseUnknown {
   //               product that cannot have one
   virtual void RefreshStatus(CATBaseUnknown_var root) = 0;
 
-  // Writes " Total CVS Comm Time: ", the milliseconds spent waiting for cvs.exe and a line end to standard
-  // output, and starts counting anew. GetFileStatus counts, and so does the question that Edit ends with. A
-  // refresh, also that of Unedit, replaces the count by the time of its `-n edit` runs. Always 0.
+  // Writes " Total CVS Comm Time: ", the milliseconds spent waiting for the client and a line end to
+  // standard output, and starts counting anew. GetFileStatus counts, and so does the question that Edit ends
+  // with. A refresh, also that of Unedit, replaces the count by the time of its `-n edit` runs. Always 0.
   virtual HRESULT PrintCommTime() = 0;
 
   // Takes the document of the manager's product for editing.

@@ -12,7 +12,7 @@
 #include "component/faults/MemoryFaults.h"
 #include "component/manager/CVSStage.h"
 #include "component/manager/SlowStep.h"
-#include "component/svn/SVNStage.h"
+#include "component/svn/DatabaseStage.h"
 #include "support/CapturedOutput.h"
 #include "support/DebugMessages.h"
 #include "windows/WindowsControl.h"
@@ -45,6 +45,21 @@ double Seconds(const std::wstring& message) {
 }
 
 class RefreshTimesOfEntries : public SVNStage {};
+class RefreshTimesOfXML : public SVNStage {};
+// Its reports hold the long text as a lock's owner.
+class RefreshTimesOfADatabase : public DatabaseStage {
+protected:
+  RefreshTimesOfADatabase() {
+    Products.Add("car", "wc/car");
+    Report({reports::LockedElsewhere("car", {"t", kLong})});
+  }
+};
+
+void ExpectAnHourInTheXMLAlone(const zrk::svn::SVNTimes& times) {
+  EXPECT_GE(times.XMLParsing, kHour);
+  EXPECT_LT(times.StatusCheck, kHour);
+  EXPECT_LT(times.Attributing, kHour);
+}
 
 }  // namespace
 
@@ -99,4 +114,29 @@ TEST_F(RefreshTimesOfEntries, CountIntoTheStatusCheck) {
   writer.join();
   EXPECT_GE(manager.SVNTimings.StatusCheck, static_cast<double>(reading));
   EXPECT_EQ(ReadStatusAttributes(Products.At("wheel"))->Revision, "9");
+}
+
+TEST_F(RefreshTimesOfXML, HoldTheReadingOfTheReport) {
+  Products.Add("wheel", "wc/wheel.CATPart");
+  WriteEntries("wc", entries::File(10, "wheel.CATPart", "9", "bert"));
+  Client.When("--xml").Out(XMLReport(kLong));
+  Client.Otherwise().Out(ForeignLockReport("wheel.CATPart"));
+  ZRKECVSManager manager(*Products.At("wheel").Get());
+  CallWithAnHourAtTheCopyOf(kLong, [&] { manager.RefreshStatus(nullptr); });
+  ExpectAnHourInTheXMLAlone(manager.SVNTimings);
+}
+
+TEST_F(RefreshTimesOfADatabase, OfARefreshHoldTheReadingOfTheReportAsXML) {
+  ZRKECVSManager manager(*Products.At("car").Get());
+  CallWithAnHourAtTheCopyOf(kLong, [&] { manager.RefreshStatus(nullptr); });
+  ExpectAnHourInTheXMLAlone(manager.SVNTimings);
+}
+
+TEST_F(RefreshTimesOfADatabase, OfAQueryHoldTheRunAlone) {
+  ZRKECVSManager manager(*Products.At("car").Get());
+  ZRKCVSStatus record;
+  CallWithAnHourAtTheCopyOf(kLong,
+                            [&] { manager.GetFileStatus(CATIProduct_var(Products.At("car")), record); });
+  EXPECT_EQ(record.LockOwner, kLong.c_str());
+  EXPECT_LT(manager.CommTime, kHour);
 }

@@ -169,7 +169,8 @@ TEST(DatabaseCommand, TakesNoPartOfALetterForABackslashOrAnAt) {
 }
 
 TEST_F(DatabaseCommands, ForAFileAtTheRootRunThere) {
-  zrk::svn::ReadStatusOfFile(Context(), "\\car");
+  zrk::svn::SVNTimes notAsked;
+  zrk::svn::ReadStatusOfFile(Context(), "\\car", notAsked);
   zrk::svn::RunDatabaseCommand(Context(), "lock", "\\car");
   ASSERT_EQ(Launched.All().size(), 3U);
   for (const standin::Launch& launch : Launched.All()) EXPECT_EQ(launch.Folder, L"\\");

@@ -333,16 +333,6 @@ TEST_F(DatabaseTree, ShowsWhoHoldsALockAndWhy) {
   EXPECT_EQ(Shown("car"), (StatusAttributes{"9", "Edit", "", annas}));
 }
 
-// A report that takes longer to read than the clock's ticks are apart.
-TEST_F(DatabaseTree, TheReadingOfItsReportIsTimed) {
-  BuildCar();
-  std::vector<Entry> entries;
-  for (int i = 0; i < 3'000; ++i) entries.push_back({.Path = "sub/a" + std::to_string(i)});
-  Report(entries);
-  Refresh();
-  EXPECT_GT(Times.XMLParsing, 0);
-}
-
 TEST_F(DatabaseTree, WritesNothingIntoTheWorkingCopy) {
   BuildCar();
   Report({{.Path = "car.CATProduct"}});
