@@ -112,3 +112,15 @@ TEST_F(RefreshDiscovery, ThatIsSubversionsEndsThisCallAndIsUsedByTheNext) {
   ASSERT_EQ(messages.All().size(), 3u);
   EXPECT_TRUE(messages.All()[0].starts_with(L"\nSVN status check time: "));
 }
+
+// What knows the way of CVS goes it to its end, by the client of Subversion.
+TEST_F(RefreshDiscovery, ThatIsOfBothLetsThisCallGoOnAsCVS) {
+  WriteFile(Folder / "second/model/.svn/entries", "10\n");
+  ZRKECVSManager manager(Product("empty"));
+  manager.RefreshStatus(Root("model"));
+  EXPECT_TRUE(manager.IsSVN);
+  EXPECT_EQ(Text(manager.SandboxRoot), Folder.Host("second") + "\\");
+  ASSERT_EQ(Client.Runs().size(), 2u);
+  EXPECT_EQ(Client.Runs()[0].Program, "svn.exe");
+  EXPECT_EQ(Client.Runs()[0].Arguments, (std::vector<std::string>{"status", "-v", "model\\part"}));
+}

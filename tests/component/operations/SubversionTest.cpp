@@ -29,3 +29,15 @@ TEST_F(InSubversion, UneditUnlocksTheFileWhateverItsMark) {
   ASSERT_GE(Client.Runs().size(), 1u);
   EXPECT_EQ(Client.Runs()[0].Joined(), "unlock " + Folder.Host(kDocument));
 }
+
+TEST_F(InSubversion, ADeletionIsNotTimed) {
+  WriteFile(Folder / "new/.svn/wc.db", "");
+  Manager().CommTime = 7;
+  Manager().SVNTimings = {1, 2, 3};
+  for (const char* file : {"proj/sub/part", "new/part"}) Manager().SVNDelete(Folder.Host(file).c_str());
+  EXPECT_EQ(Client.Runs().size(), 2U);
+  EXPECT_EQ(Manager().CommTime, 7);
+  EXPECT_EQ(Manager().SVNTimings.StatusCheck, 1);
+  EXPECT_EQ(Manager().SVNTimings.XMLParsing, 2);
+  EXPECT_EQ(Manager().SVNTimings.Attributing, 3);
+}

@@ -4,6 +4,7 @@
 
 #include "SVNStage.h"
 #include "svn/StatusReaders.h"
+#include "windows/LaunchLog.h"
 
 namespace {
 
@@ -27,6 +28,16 @@ TEST_F(SVNTreeRefresh, AsksForTheTextReportAndThenForTheXMLReportOfEachDocumentD
   EXPECT_EQ(Arguments(),
             TreeReports({"wc/car.CATProduct", "wc/axle.CATProduct", "wc/wheel.CATPart", "wc/wheel.CATPart",
                          "wc/axle.CATProduct", "wc/wheel.CATPart", "wc/wheel.CATPart"}));
+}
+
+TEST_F(SVNTreeRefresh, ShowsAProductBeforeItAsksForTheNext) {
+  Products.Add("car", "wc/car.CATProduct").Add("wheel", "wc/wheel.CATPart").Place("car", "wheel.1", "wheel");
+  std::vector<std::size_t> shownAtLaunch;
+  standin::SetLaunchListener(
+      [&](const standin::Launch&) { shownAtLaunch.push_back(Redrawn.Paths().size()); });
+  Refresh("car");
+  standin::SetLaunchListener({});
+  EXPECT_EQ(shownAtLaunch, (std::vector<std::size_t>{0, 0, 1, 1}));
 }
 
 TEST_F(SVNTreeRefresh, RunsSVNInTheWorkingFolder) {
