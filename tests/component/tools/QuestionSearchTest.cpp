@@ -20,6 +20,15 @@ TEST(QuestionSearch, FindsTheQuestionHoweverItComes) {
   }
 }
 
+TEST(QuestionSearch, FindsItAtTheFrontWhateverOfItCameFirst) {
+  const std::string question = "revert changes";
+  for (std::size_t first = 0; first < question.size(); ++first) {
+    QuestionSearch search;
+    EXPECT_FALSE(search.FindIn(question.substr(0, first)));
+    EXPECT_TRUE(search.FindIn(question)) << first;
+  }
+}
+
 TEST(QuestionSearch, FindsItBehindWordsThatResembleIt) {
   EXPECT_TRUE(QuestionSearch().FindIn("g, revert change, invert changes, revert changes"));
 }

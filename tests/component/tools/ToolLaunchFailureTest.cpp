@@ -25,6 +25,14 @@ TEST(ToolLaunchFailure, WithoutAPathOfCVSNothingIsRunAndNothingSaid) {
   EXPECT_TRUE(messages.All().empty());
 }
 
+TEST(ToolLaunchFailure, WithAnyPathOfCVSTheLaunchIsTried) {
+  ToolRunner tool;
+  tool.CVSExePath = "x";
+  const DebugMessages messages;
+  tool.Run();
+  EXPECT_EQ(messages.All(), kNotCreated);
+}
+
 TEST(ToolLaunchFailure, WithoutAPathOfSVNTheLaunchIsTriedAndFails) {
   ToolRunner tool;
   tool.IsSVN = true;
