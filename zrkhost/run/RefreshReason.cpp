@@ -9,6 +9,7 @@
 #include "session/CVSWorkingCopy.h"
 #include "session/ProductFacts.h"
 #include "session/WorkingCopyFolder.h"
+#include "text/Characters.h"
 
 namespace zrkhost {
 
@@ -37,7 +38,7 @@ Search LookForWorkingCopies(const std::vector<Place>& places, std::size_t first)
       i = places[i].End;
       continue;
     }
-    const auto folder = document->substr(0, document->rfind('\\'));
+    const auto folder = document->substr(0, standin::FindLastByCharacters(*document, '\\'));
     if (search.FirstFolder.empty()) search.FirstFolder = folder;
     auto known = folders.find(folder);
     if (known == folders.end()) {
