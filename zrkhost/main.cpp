@@ -59,14 +59,16 @@ int Run(const Options& options) {
   if (!prompt) commands = ReadCommands(options);
   PrepareClients(options);
 
-  OutputCapture output;
-  const Plugin plugin(options.Plugin ? PathFromNative(*options.Plugin) : DefaultPlugin());
-  const HostSession session(description);
-  CheckProducts(commands, session);
+  // Before standard output leads elsewhere, as it may be what they go to.
   std::unique_ptr<Report> report;
   if (options.Report) report = std::make_unique<Report>(PathFromNative(*options.Report));
   std::unique_ptr<Page> page;
   if (options.Page) page = std::make_unique<Page>(PathFromNative(*options.Page));
+
+  OutputCapture output;
+  const Plugin plugin(options.Plugin ? PathFromNative(*options.Plugin) : DefaultPlugin());
+  const HostSession session(description);
+  CheckProducts(commands, session);
 
   std::optional<bool> answer;
   if (options.Answer) answer = *options.Answer == "yes";
@@ -80,6 +82,7 @@ int Run(const Options& options) {
     console.RunAll(commands);
   }
 
+  output.Forward();
   bool written = true;
   if (report && !report->Write(session)) {
     PrintError(Utf8FromNative(*options.Report) + ": the report cannot be written");
@@ -89,7 +92,6 @@ int Run(const Options& options) {
     PrintError(Utf8FromNative(*options.Page) + ": the page cannot be written");
     written = false;
   }
-  output.Forward();
   if (!output.Good()) {
     PrintError("standard output cannot be written");
     written = false;

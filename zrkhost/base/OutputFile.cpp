@@ -5,15 +5,41 @@
 
 namespace zrkhost {
 
-OutputFile::OutputFile(const std::filesystem::path& file, const std::string& what)
-    : file_(file), stream_(file, std::ios::binary | std::ios::app) {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool IsThere(const fs::path& file) {
+  std::error_code error;
+  return fs::exists(fs::symlink_status(file, error));
+}
+
+bool IsRegular(const fs::path& file) {
+  std::error_code error;
+  return fs::is_regular_file(file, error);
+}
+
+}  // namespace
+
+OutputFile::OutputFile(const fs::path& file, const std::string& what)
+    : file_(file),
+      isNew_(!IsThere(file)),
+      stream_(file, std::ios::binary | std::ios::app),
+      isRegular_(IsRegular(file)) {
   if (!stream_) throw CallError(Utf8FromPath(file) + ": the " + what + " cannot be written");
 }
 
-bool OutputFile::Write(std::string_view text) {
+OutputFile::~OutputFile() {
+  if (!isNew_) return;
+  stream_.close();
   std::error_code error;
-  // A pipe or a device holds nothing that could be in the way.
-  if (std::filesystem::is_regular_file(file_, error)) std::filesystem::resize_file(file_, 0, error);
+  fs::remove(file_, error);
+}
+
+bool OutputFile::Write(std::string_view text) {
+  isNew_ = false;
+  std::error_code error;
+  if (isRegular_) fs::resize_file(file_, 0, error);
   if (error) return false;
   stream_ << text;
   stream_.close();

@@ -9,7 +9,8 @@
 #include "base/Encoding.h"
 #include "call/CommandSource.h"
 #include "call/Surroundings.h"
-#include "terminal/StandardInput.h"
+#include "session/WorkingCopyFolder.h"
+#include "terminal/StandardStreams.h"
 
 namespace zrkhost {
 
@@ -55,7 +56,19 @@ std::vector<fs::path> InputsOf(const Options& options) {
     inputs.push_back(PathFromNative(*options.CommandFile));
   }
   inputs.push_back(options.Plugin ? PathFromNative(*options.Plugin) : DefaultPlugin());
+  const fs::path clients = options.Clients ? PathFromNative(*options.Clients) : DefaultClients();
+  for (const char* client : {"cvs.exe", "svn.exe"}) inputs.push_back(clients / client);
   return inputs;
+}
+
+bool IsKeptByAClient(const fs::path& file) {
+  std::error_code error;
+  if (!fs::is_regular_file(file, error)) return false;
+  for (fs::path current = fs::canonical(file, error); current != current.parent_path();) {
+    current = current.parent_path();
+    if (IsClientsFolder(current)) return true;
+  }
+  return false;
 }
 
 }  // namespace
@@ -65,6 +78,8 @@ void CheckOutputs(const Options& options) {
   for (const auto& output : outputs) {
     for (const auto& input : InputsOf(options)) CheckOutput(output, input, kInput);
     if (ReadsStandardInput(options) && IsStandardInput(output.File)) Refuse(output, kInput);
+    if (IsStandardOutput(output.File)) Refuse(output, "standard output");
+    if (IsKeptByAClient(output.File)) Refuse(output, "what a client keeps of a working copy");
   }
   if (outputs.size() == 2) CheckOutput(outputs[1], outputs[0].File, "the report");
 }

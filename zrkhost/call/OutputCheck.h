@@ -7,7 +7,8 @@
 // overwrite. Files are compared by what they are, not by their names.
 namespace zrkhost {
 
-// What the call reads, and each other. Throws CallError.
+// What the call reads, standard output, a client's own files in a working copy, and each other. Throws
+// CallError.
 void CheckOutputs(const Options& options);
 // The documents of the session. Throws CallError.
 void CheckOutputs(const Options& options, const SessionDescription& description);

@@ -37,6 +37,10 @@ WorkingCopyKind WorkingCopyKindOf(const fs::path& folder) {
   }
 }
 
+bool IsClientsFolder(const fs::path& folder) {
+  return folder.filename() == "CVS" || folder.filename() == ".svn";
+}
+
 bool EndsSearch(const fs::path& folder) {
   const auto kind = WorkingCopyKindOf(folder);
   return kind == WorkingCopyKind::CVS || (kind == WorkingCopyKind::Subversion && !ListsEntries(folder));

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <string>
 
 namespace zrkhost {
@@ -11,8 +10,5 @@ std::string ReadStandardInput();
 // The next line, without its end; false when the input ends. An end before that does not count: on a terminal
 // more can be typed behind one.
 bool ReadLine(std::string& line);
-
-// Whether it comes from this file, whatever its name. False for a terminal, a pipe or a device.
-bool IsStandardInput(const std::filesystem::path& file);
 
 }  // namespace zrkhost

@@ -1,15 +1,27 @@
+#include "terminal/StandardStreams.h"
+
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "terminal/StandardInput.h"
-
 namespace zrkhost {
 
-bool IsStandardInput(const std::filesystem::path& file) {
-  struct stat input {};
+namespace {
+
+bool LeadsTo(int descriptor, const std::filesystem::path& file) {
+  struct stat stream {};
   struct stat other {};
-  return fstat(STDIN_FILENO, &input) == 0 && S_ISREG(input.st_mode) && stat(file.c_str(), &other) == 0 &&
-         input.st_dev == other.st_dev && input.st_ino == other.st_ino;
+  return fstat(descriptor, &stream) == 0 && S_ISREG(stream.st_mode) && stat(file.c_str(), &other) == 0 &&
+         stream.st_dev == other.st_dev && stream.st_ino == other.st_ino;
+}
+
+}  // namespace
+
+bool IsStandardInput(const std::filesystem::path& file) {
+  return LeadsTo(STDIN_FILENO, file);
+}
+
+bool IsStandardOutput(const std::filesystem::path& file) {
+  return LeadsTo(STDOUT_FILENO, file);
 }
 
 }  // namespace zrkhost

@@ -159,6 +159,35 @@ TEST_F(Call, RefusesAReportOrPageInPlaceOfTheLibrary) {
   EXPECT_EQ(ReadFile(folder_ / "library"), "machine code");
 }
 
+TEST_F(Call, RefusesAReportOrPageInPlaceOfAClient) {
+  WriteFile(folder_ / "clients/svn.exe", "machine code");
+  for (const char* option : {"--report", "--page"}) {
+    ExpectRefused(
+        Zrkhost({CarSession(), "-c", "tree", "--clients", Path("clients"), option, Path("clients/svn.exe")}),
+        "svn.exe: the " + std::string(option + 2) + " would overwrite what the call reads");
+  }
+  EXPECT_EQ(ReadFile(folder_ / "clients/svn.exe"), "machine code");
+}
+
+TEST_F(Call, RefusesAReportOrPageInPlaceOfWhatAClientKeeps) {
+  for (const char* file : {"wc/CVS/Entries", "wc/.svn/wc.db", "wc/.svn/pristine/00/00.svn-base"}) {
+    WriteFile(folder_ / file, "kept");
+    for (const char* option : {"--report", "--page"}) {
+      ExpectRefused(Zrkhost({CarSession(), "-c", "tree", option, Path(file)}),
+                    "would overwrite what a client keeps of a working copy");
+    }
+    EXPECT_EQ(ReadFile(folder_ / file), "kept");
+  }
+}
+
+TEST_F(Call, LeavesNoNewReportWhenNothingIsRun) {
+  ExpectRefused(
+      Zrkhost({CarSession(), "-c", "tree", "--report", Path("report.json"), "--page", Path("no/page")}),
+      "the page cannot be written");
+  ExpectRefused(Zrkhost({CarSession(), "-c", "status none", "--report", Path("report.json")}), "none");
+  EXPECT_FALSE(std::filesystem::exists(folder_ / "report.json"));
+}
+
 TEST_F(Call, LeavesAnEarlierReportAloneWhenThePageCannotBeWritten) {
   WriteFile(folder_ / "report.json", "earlier");
   ExpectRefused(

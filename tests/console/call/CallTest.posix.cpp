@@ -65,6 +65,24 @@ TEST_F(CallOnPosix, RefusesAReportOrPageInPlaceOfItsStandardInput) {
   }
 }
 
+TEST_F(CallOnPosix, RefusesAReportOrPageInPlaceOfItsStandardOutput) {
+  const auto call = "exec " + Program().string() + " '" + CarSession() + "' -c tree ";
+  for (const char* rest : {"--report /dev/stdout", "--page /dev/stdout", "--page out"}) {
+    const auto result = RunProgram("/bin/sh", {"-c", "cd '" + Path("") + "' && " + call + rest + " >out"});
+    EXPECT_EQ(result.Status, 2) << rest;
+    EXPECT_THAT(result.Error, HasSubstr("would overwrite standard output")) << rest;
+  }
+}
+
+TEST_F(CallOnPosix, WritesAReportAndAPageBehindItsOutputIntoAPipe) {
+  const auto call = Program().string() + " '" + CarSession() + "' -c commtime -c tree";
+  const auto result = RunProgram("/bin/sh", {"-c", call + " --report /dev/stdout --page /dev/fd/1 | cat"});
+  const auto report = result.Output.find("\n{\n  \"commands\": [");
+  ASSERT_NE(report, std::string::npos) << result.Output;
+  EXPECT_LT(result.Output.find("Product"), report);
+  EXPECT_GT(result.Output.find("<!DOCTYPE html>"), report);
+}
+
 TEST_F(CallOnPosix, TakesAPageInPlaceOfAStandardInputThatItDoesNotRead) {
   WriteFile(folder_ / "f", "earlier");
   const auto script =
