@@ -4,6 +4,7 @@
 
 #include "base/CallError.h"
 #include "base/Encoding.h"
+#include "session/WorkingCopyFolder.h"
 
 namespace zrkhost {
 
@@ -11,15 +12,19 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool IsClientsFolder(const fs::path& path) {
-  return path.filename() == "CVS" || path.filename() == ".svn";
+void ExpectRead(const fs::path& folder, const std::error_code& error) {
+  if (error) throw CallError(Utf8FromPath(folder) + ": cannot be read: " + Utf8FromNative(error.message()));
 }
 
 std::vector<std::string> FilesBelow(const fs::path& folder) {
   std::vector<std::string> files;
+  std::error_code error;
   // Folders behind symbolic links are not followed, so there is no way round in a circle.
-  for (auto entry = fs::recursive_directory_iterator(folder); entry != fs::recursive_directory_iterator();
-       ++entry) {
+  auto entry = fs::recursive_directory_iterator(folder, error);
+  ExpectRead(folder, error);
+  fs::path last;
+  for (; entry != fs::recursive_directory_iterator(); entry.increment(error), ExpectRead(last, error)) {
+    last = entry->path();
     std::error_code broken;
     if (entry->is_directory(broken) && IsClientsFolder(entry->path())) {
       entry.disable_recursion_pending();
@@ -57,14 +62,7 @@ SessionDescription SessionOfFolder(const fs::path& folder, const std::optional<f
   auto top = fs::absolute(folder).lexically_normal();
   if (!top.has_filename()) top = top.parent_path();
 
-  std::vector<std::string> files;
-  try {
-    files = FilesBelow(top);
-  } catch (const fs::filesystem_error& failure) {
-    throw CallError(Utf8FromPath(failure.path1()) +
-                    ": cannot be read: " + Utf8FromNative(failure.code().message()));
-  }
-
+  const std::vector<std::string> files = FilesBelow(top);
   SessionDescription session;
   session.Root = RootFile(top, files, root);
   std::vector<ChildDescription> children;

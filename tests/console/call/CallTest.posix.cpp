@@ -1,3 +1,5 @@
+#include <unistd.h>
+
 #include "console/ConsoleTest.h"
 #include "support/Files.h"
 
@@ -81,6 +83,19 @@ TEST_F(CallOnPosix, WritesAReportAndAPageBehindItsOutputIntoAPipe) {
   ASSERT_NE(report, std::string::npos) << result.Output;
   EXPECT_LT(result.Output.find("Product"), report);
   EXPECT_GT(result.Output.find("<!DOCTYPE html>"), report);
+}
+
+TEST_F(CallOnPosix, NamesAFolderThatCannotBeRead) {
+  WriteFile(folder_ / "wc/a.CATProduct", "");
+  std::filesystem::create_directories(folder_ / "wc/closed");
+  std::filesystem::permissions(folder_ / "wc/closed", std::filesystem::perms::none);
+  std::vector<std::string> call{Program().string(), "--folder", Path("wc"), "-c", "tree"};
+  // The modes of files hold for the administrator only without these.
+  const std::string without = "-dac_override,-dac_read_search";
+  if (geteuid() == 0)
+    call.insert(call.begin(), {"setpriv", "--bounding-set", without, "--inh-caps", without});
+  ExpectRefused(RunProgram("/usr/bin/env", call), Path("wc/closed") + ": cannot be read: Permission denied");
+  std::filesystem::permissions(folder_ / "wc/closed", std::filesystem::perms::owner_all);
 }
 
 TEST_F(CallOnPosix, TakesAPageInPlaceOfAStandardInputThatItDoesNotRead) {
