@@ -57,7 +57,9 @@ std::vector<fs::path> InputsOf(const Options& options) {
   }
   inputs.push_back(options.Plugin ? PathFromNative(*options.Plugin) : DefaultPlugin());
   const fs::path clients = options.Clients ? PathFromNative(*options.Clients) : DefaultClients();
-  for (const char* client : {"cvs.exe", "svn.exe"}) inputs.push_back(clients / client);
+  if (!clients.empty()) {
+    for (const char* client : {"cvs.exe", "svn.exe"}) inputs.push_back(clients / client);
+  }
   return inputs;
 }
 

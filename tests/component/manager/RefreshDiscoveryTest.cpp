@@ -113,7 +113,7 @@ TEST_F(RefreshDiscovery, ThatIsSubversionsEndsThisCallAndIsUsedByTheNext) {
   EXPECT_TRUE(messages.All()[0].starts_with(L"\nSVN status check time: "));
 }
 
-// What knows the way of CVS goes it to its end, by the client of Subversion.
+// The manager is one of Subversion from then on, but this call has what the route of CVS needs.
 TEST_F(RefreshDiscovery, ThatIsOfBothLetsThisCallGoOnAsCVS) {
   WriteFile(Folder / "second/model/.svn/entries", "10\n");
   ZRKECVSManager manager(Product("empty"));
